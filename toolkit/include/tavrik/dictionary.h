@@ -1,0 +1,28 @@
+#pragma once
+
+#include <tavrik/array.h>
+#include <tavrik/object.h>
+
+// Keys and values are variants. Keys compare by value: strings by their bytes, objects by identity. Entries stand in
+// the order in which their keys were first stored.
+namespace tavrik {
+
+TAVRIK_API void dictionaryConstructor(Object* dictionary);
+TAVRIK_API void dictionaryDestructor(Object* dictionary);
+TAVRIK_API std::int32_t dictionaryCount(Object* dictionary, std::int32_t);
+TAVRIK_API void dictionaryRemoveAll(Object* dictionary);
+TAVRIK_API bool dictionaryHasKey(Object* dictionary, Object* key);
+// Raises KeyNotFoundException.
+TAVRIK_API void dictionaryRemove(Object* dictionary, Object* key);
+// Raises KeyNotFoundException.
+TAVRIK_API Ref<Object> dictionaryValueGetter(Object* dictionary, Object* key);
+// Raises OutOfMemoryException.
+TAVRIK_API void dictionaryValueSetter(Object* dictionary, Object* key, Object* value);
+TAVRIK_API Ref<Object> DictionaryLookup(Object* dictionary, Object* key, Object* otherwise);
+// The key at a position from 0 on. Raises OutOfBoundsException.
+TAVRIK_API Ref<Object> dictionaryKey(Object* dictionary, std::int32_t position);
+// New arrays, which later changes don't touch.
+TAVRIK_API Ref<Object> dictionaryKeys(Object* dictionary);
+TAVRIK_API Ref<Object> dictionaryValues(Object* dictionary);
+
+}  // namespace tavrik
