@@ -1,0 +1,11 @@
+#pragma once
+
+#include "toolkit/core/menu_handlers.h"
+
+namespace tavrik::core {
+
+bool quits_with_last_window();
+
+const MenuHandlers& application_menu_handlers(Object* app);
+
+}  // namespace tavrik::core

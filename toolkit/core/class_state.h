@@ -1,0 +1,27 @@
+#pragma once
+
+#include <tavrik/class_record.h>
+
+#include <vector>
+
+// What the core keeps with a class record, in front of it.
+namespace tavrik::core {
+
+struct ClassState {
+    std::int32_t number = 0;
+    std::int64_t live = 0;
+    bool prepared = false;
+    std::vector<Lifecycle> inits;        // the parent's first
+    std::vector<Lifecycle> destructors;  // the innermost class's first
+    std::vector<Lifecycle> exits;        // the innermost class's first
+};
+
+ClassState& state_of(const ClassRecord* record) noexcept;
+
+// Collects the functions of the whole chain. A record is complete by the time that the first instance is made.
+void prepare(const ClassRecord* record, ClassState& state);
+
+// As RuntimeNewClass, but the record does not stand in the class list: for what the toolkit makes for itself.
+ClassRecord* new_hidden_class(ClassRecord* parent, const char* name, std::int32_t instance_size);
+
+}  // namespace tavrik::core

@@ -1,0 +1,86 @@
+#include "toolkit/core/event_scope.h"
+
+#include "toolkit/core/program.h"
+#include "toolkit/core/reflection.h"
+#include "toolkit/core/streams.h"
+
+#include <tavrik/exception.h>
+#include <tavrik/runtime.h>
+
+#include <exception>
+
+namespace tavrik::core {
+namespace {
+
+EventScope* innermost = nullptr;
+
+EventScope& current_scope() {
+    static EventScope* const outside = new EventScope;  // becomes the innermost for good
+    return innermost == nullptr ? *outside : *innermost;
+}
+
+constinit Event<bool(Object*)> unhandled_exception{"Application", "UnhandledException"};
+
+bool is(Object* object, std::string_view class_name) { return RuntimeObjectIsa(object, find_class(class_name)); }
+
+bool application_takes(Object* exception) {
+    const Ref<Object> app = getAppObject();
+    return app && unhandled_exception(app.object(), exception);
+}
+
+void hand_on(Object* exception) {
+    if (is(exception, "EndException")) {
+        quit();
+        return;
+    }
+    if (is(exception, "NilObjectException") && EventScope::cancelled()) return;
+    if (!application_takes(exception)) RuntimeUnhandledException(exception);
+}
+
+// One step of an event: what it raises is handed on, and what that raises in turn is told.
+void guarded(const std::function<void()>& step) noexcept {
+    Ref<Object> caught;
+    try {
+        step();
+        return;
+    } catch (const RaisedException& raised) {
+        caught = raised.exception;
+    } catch (const std::exception& error) {
+        return tell_failure(error.what());
+    }
+    try {
+        hand_on(caught.object());
+    } catch (const RaisedException& raised) {
+        RuntimeUnhandledException(raised.exception.object());
+    } catch (const std::exception& error) {
+        tell_failure(error.what());
+    }
+}
+
+void raise_what_releases_left() {
+    if (runtime_release_exception != nullptr) RuntimeReraiseException(RuntimeTakeReleaseException().object());
+}
+
+}  // namespace
+
+EventScope::EventScope() : outer_(std::exchange(innermost, this)) {}
+
+EventScope::~EventScope() { innermost = outer_; }
+
+void EventScope::note_failure(std::string reason) { current_scope().failure_ = std::move(reason); }
+
+std::string_view EventScope::last_failure() { return current_scope().failure_; }
+
+void EventScope::note_cancel() { current_scope().cancelled_ = true; }
+
+bool EventScope::cancelled() { return current_scope().cancelled_; }
+
+void deliver(const std::function<void()>& event) noexcept {
+    const EventScope scope;
+    guarded(event);
+    guarded(raise_what_releases_left);
+    guarded(flush_all_streams);
+    for (const std::string& failure : take_unread_stream_failures()) tell_failure(failure);
+}
+
+}  // namespace tavrik::core

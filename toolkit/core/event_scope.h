@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace tavrik::core {
+
+// What is known of the event that is being handled. Events nest where a dialog is open inside a handler. Outside of
+// any event, at start-up, one scope that never ends takes the notes.
+class EventScope {
+public:
+    EventScope();
+    ~EventScope();
+    EventScope(const EventScope&) = delete;
+    EventScope& operator=(const EventScope&) = delete;
+
+    // Why a service call failed, in words for the person: the operation, on what, and the system's reason.
+    static void note_failure(std::string reason);
+    // The last of them in this event, or nothing.
+    static std::string_view last_failure();
+    // The person cancelled a dialog, and so knows why nothing happened.
+    static void note_cancel();
+    static bool cancelled();
+
+private:
+    EventScope* outer_;
+    std::string failure_;
+    bool cancelled_ = false;
+};
+
+// Runs code that a front, a thread or a C callback enters the program with, as one event. Nothing leaves it: an
+// exception goes to the application's "UnhandledException" event and, if no handler takes it, to
+// RuntimeUnhandledException. At its end everything buffered is in the files, and what went wrong unread is told.
+void deliver(const std::function<void()>& event) noexcept;
+
+}  // namespace tavrik::core

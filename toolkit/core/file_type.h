@@ -1,0 +1,13 @@
+#pragma once
+
+#include "toolkit/front/descriptions.h"
+
+#include <string_view>
+#include <vector>
+
+namespace tavrik::core {
+
+// What the registered types that a filter string names select, in the string's order.
+std::vector<front::FileFilter> filters_for(std::string_view filter);
+
+}  // namespace tavrik::core

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <tavrik/object.h>
+#include <tavrik/string.h>
+
+#include <map>
+#include <string>
+
+namespace tavrik::core {
+
+// What a window or the application does on menu items, by their names. The class layer's own dictionary tells that
+// there is a handler; this has the functions.
+class MenuHandlers {
+public:
+    void add(Object* dictionary, const String& item, Function handler);
+    // Calls the handler with its owner. False without one, and when it leaves the item to others.
+    bool call(Object* owner, std::string_view item) const;
+
+private:
+    std::map<std::string, Function, std::less<>> handlers_;
+};
+
+}  // namespace tavrik::core

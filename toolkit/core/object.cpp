@@ -1,0 +1,119 @@
+#include <tavrik/object.h>
+
+#include "toolkit/core/allocator.h"
+#include "toolkit/core/class_state.h"
+#include "toolkit/core/release.h"
+
+#include <tavrik/runtime.h>
+
+#include <cstring>
+#include <string>
+
+namespace tavrik {
+namespace {
+
+// Releases nest this deep; what is to be released deeper down waits in a queue, so that a structure of any depth takes
+// constant stack.
+constexpr int kDeepestRelease = 24;
+
+int release_depth = 0;
+Object* waiting_first = nullptr;
+Object* waiting_last = nullptr;
+
+// A dead object needs no count: its place holds the link of the queue.
+Object*& link(Object* object) {
+    static_assert(sizeof(object->count) == sizeof(Object*));
+    return reinterpret_cast<Object*&>(object->count);
+}
+
+void enqueue(Object* object) {
+    link(object) = nullptr;
+    if (waiting_first == nullptr) {
+        waiting_first = object;
+    } else {
+        link(waiting_last) = object;
+    }
+    waiting_last = object;
+}
+
+Object* dequeue() {
+    Object* const object = waiting_first;
+    waiting_first = link(object);
+    return object;
+}
+
+void run_all(const std::vector<Lifecycle>& functions, Object* object) noexcept {
+    for (const Lifecycle function : functions) {
+        try {
+            function(object);
+        } catch (const RaisedException& raised) {
+            core::note_release_exception(raised.exception.object());
+        }
+    }
+}
+
+// While its functions run the object holds one count of its own. Whoever kept a reference by the end rescues it.
+bool rescued(Object* object) { return object->count > 1 && --object->count > 0; }
+
+void destroy(Object* object) noexcept {
+    core::ClassState& state = core::state_of(object->record);
+    object->count = 1;
+    run_all(state.destructors, object);
+    if (rescued(object)) return;
+    run_all(state.exits, object);
+    if (rescued(object)) return;
+
+    delete object->native;
+    if (object->events != object->record->events) delete[] object->events;
+    --state.live;
+    core::free_block(object, static_cast<std::size_t>(object->record->instance_size));
+}
+
+}  // namespace
+
+NativeState::~NativeState() = default;
+
+void RuntimeDestroyObject(Object* object) noexcept {
+    if (release_depth == kDeepestRelease) return enqueue(object);
+    ++release_depth;
+    destroy(object);
+    if (release_depth == 1) {
+        while (waiting_first != nullptr) destroy(dequeue());
+    }
+    --release_depth;
+}
+
+Ref<Object> RuntimeNewObject(ClassRecord* record) {
+    if (record == nullptr) RaiseNilObjectException();
+    core::ClassState& state = core::state_of(record);
+    if (!state.prepared) [[unlikely]] {
+        if (record->is_interface != 0) {
+            RuntimeRaise("IllegalCastException", "an interface has no instances: " + std::string(view(record->name)));
+        }
+        core::prepare(record, state);
+    }
+
+    const auto size = static_cast<std::size_t>(record->instance_size);
+    void* const block = core::allocate_block(size);
+    std::memset(static_cast<std::byte*>(block) + sizeof(Object), 0, size - sizeof(Object));
+    auto* const object = new (block)
+        Object{.vtable = record->vtable, .events = record->events, .record = record, .count = 1, .native = nullptr};
+    ++state.live;
+    Ref<Object> made = Ref<Object>::adopt(object);
+    for (const Lifecycle init : state.inits) init(object);
+    return made;
+}
+
+void RuntimeLockObject(Object* object) { lock(object); }
+
+void RuntimeUnlockObject(Object* object) {
+    unlock(object);
+    if (runtime_release_exception != nullptr) RuntimeReraiseException(RuntimeTakeReleaseException().object());
+}
+
+void RuntimeLockUnlockObjects(Object* new_object, Object* old_object) {
+    lock(new_object);
+    RuntimeUnlockObject(old_object);
+}
+
+}  // namespace tavrik

@@ -1,0 +1,144 @@
+#include "toolkit/core/program.h"
+
+#include "toolkit/core/event_scope.h"
+#include "toolkit/core/reflection.h"
+#include "toolkit/core/streams.h"
+#include "toolkit/core/window.h"
+#include "toolkit/front/choose.h"
+
+#include <tavrik/runtime.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+namespace tavrik {
+namespace core {
+namespace {
+
+class Quitter final : public front::ApplicationListener {
+public:
+    void quit_requested() override {
+        deliver([] { quit(); });
+    }
+};
+
+struct Program {
+    Quitter quitter;
+    std::unique_ptr<front::Front> front;
+    Ref<Object> app;
+    bool has_quit = false;
+    std::int32_t exit_status = 0;
+};
+
+Program& program() {
+    static auto* const the_program = new Program;  // outlives every static object that might ask for it
+    return *the_program;
+}
+
+constinit Operation<void()> call_open{"Application", "_CallOpen", "%%"};
+constinit Event<void()> application_closed{"Application", "Close"};
+constinit Event<bool(bool)> cancel_close{"Application", "CancelClose"};
+
+void list_live_objects() {
+    if (RuntimeLiveObjects() == 0) return;
+    std::fprintf(stderr, "objects still alive:\n");
+    for (std::int32_t number = 1; const ClassRecord* record = RuntimeClassWithNumber(number); ++number) {
+        const auto live = static_cast<long long>(RuntimeLiveObjects(record));
+        if (live != 0)
+            std::fprintf(stderr, "  %.*s: %lld\n", int(view(record->name).size()), view(record->name).data(), live);
+    }
+}
+
+std::string message_of(Object* exception) {
+    std::string message(text_property(exception, "Message").view());
+    if (!message.empty()) return message;
+    return std::string(view(exception->record->name)) + " was raised, and nothing in the program handled it.";
+}
+
+}  // namespace
+
+std::string program_name() {
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? "program" : path.filename().string();
+}
+
+front::Front& front() {
+    Program& the = program();
+    if (!the.front) the.front = front::choose_front({program_name(), the.quitter});
+    return *the.front;
+}
+
+bool has_front() { return program().front != nullptr; }
+
+void use_front(std::unique_ptr<front::Front> front) {
+    program().front = std::move(front);
+    program().has_quit = false;
+}
+
+bool has_quit() { return program().has_quit; }
+
+bool quit() {
+    Program& the = program();
+    if (the.has_quit) return true;
+    if (the.app && cancel_close(the.app.object(), true)) return false;
+    if (!close_all_windows(AppIsQuitting::kYes)) return false;
+    if (the.app) application_closed(the.app.object());
+    the.has_quit = true;
+    if (the.front) the.front->quit();
+    return true;
+}
+
+std::size_t show_message(const front::MessageDescription& message) {
+    flush_all_streams();
+    return front().show_message(message, frontmost_face());
+}
+
+void tell_failure(std::string_view text) {
+    if (!has_front()) {
+        std::fprintf(stderr, "%s: %.*s\n", program_name().c_str(), static_cast<int>(text.size()), text.data());
+        return;
+    }
+    show_message({.text = std::string(text), .icon = front::MessageIcon::kCaution});
+}
+
+}  // namespace core
+
+void RuntimeInit() { check_stack(); }
+
+void RuntimeInitExternalClasses() {}
+
+void* RuntimeAllocatePluginEntrypointsTable(std::int32_t entries) {
+    return std::calloc(static_cast<std::size_t>(entries < 1 ? 1 : entries), sizeof(Function));
+}
+
+void RuntimeRegisterAppObject(Object* app) { core::program().app = Ref<Object>(app); }
+
+Ref<Object> getAppObject() { return core::program().app; }
+
+void RuntimeRun() {
+    core::Program& program = core::program();
+    if (program.app) core::deliver([&] { core::call_open(program.app.object()); });
+    if (!program.has_quit) core::front().run();
+}
+
+std::int32_t RuntimeExit() {
+    core::Program& program = core::program();
+    core::deliver([] { core::close_all_windows(core::AppIsQuitting::kNoMatterWhat); });
+    core::deliver([&] { program.app = nullptr; });
+    program.front = nullptr;
+#ifndef NDEBUG
+    core::list_live_objects();
+#endif
+    return program.exit_status;
+}
+
+void RuntimeUnhandledException(Object* exception) {
+    if (exception == nullptr) return;
+    core::tell_failure(core::message_of(exception));
+}
+
+void RuntimeBackgroundTask() {}
+
+}  // namespace tavrik

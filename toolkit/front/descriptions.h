@@ -1,0 +1,107 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <vector>
+
+// The state that the core tells a front, as plain values. Texts are UTF-8, lengths are pixels at scale 1, and
+// positions are relative to the content of the window unless told otherwise.
+namespace tavrik::front {
+
+struct Rect {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const Rect&) const = default;
+};
+
+enum class Placement { kDefault, kParent, kMainScreen, kParentScreen, kStagger, kWhereTold };
+
+struct WindowDescription {
+    std::string title;
+    Rect content;  // on the screen; left and top count with Placement::kWhereTold
+    Placement placement = Placement::kDefault;
+    int min_width = 0;
+    int min_height = 0;
+    int max_width = std::numeric_limits<std::int16_t>::max();
+    int max_height = std::numeric_limits<std::int16_t>::max();
+    bool visible = false;
+    bool resizable = false;
+    bool close_button = true;
+    bool minimize_button = true;
+    bool maximize_button = false;
+    bool full_screen = false;
+    bool menu_bar_visible = true;
+};
+
+struct TextStyle {
+    std::string font;  // "" and "System": the font of the desktop
+    int size = 0;      // points; 0: the size of the desktop
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+
+    bool operator==(const TextStyle&) const = default;
+};
+
+struct ButtonDescription {
+    std::string name;     // the control's name, for who drives the program from outside
+    std::string caption;  // may hold "&" before a mnemonic letter; "&&" is a plain one
+    Rect bounds;
+    int tab_index = 0;
+    bool visible = true;
+    bool enabled = true;
+    bool is_default = false;
+    bool is_cancel = false;
+    std::string help;
+    TextStyle style;
+};
+
+using MenuId = std::uint64_t;
+
+enum class MenuRole { kPlain, kQuit, kPreferences, kAbout };
+
+struct MenuDescription {
+    MenuId id = 0;
+    MenuRole role = MenuRole::kPlain;
+    std::string text;      // "&" before the mnemonic letter
+    std::string shortcut;  // "Cmd+Shift+Q"; Cmd is the platform's own command key
+    bool separator = false;
+    bool enabled = true;
+    bool checked = false;
+    bool visible = true;
+    std::string help;
+    std::vector<MenuDescription> children;
+};
+
+enum class MessageIcon { kNone, kNote, kCaution, kStop, kQuestion };
+
+struct MessageDescription {
+    std::string title;
+    std::string text;
+    std::string explanation;
+    MessageIcon icon = MessageIcon::kNone;
+    std::vector<std::string> buttons{"OK"};  // captions, the one that acts first
+    std::size_t default_button = 0;
+    std::size_t cancel_button = 0;
+};
+
+struct FileFilter {
+    std::string label;                    // what the kind of file is called
+    std::vector<std::string> extensions;  // without a dot; any letter case matches
+};
+
+struct FileChoice {
+    std::string title;
+    std::string prompt;
+    std::string action_caption;  // "" : the platform's own word
+    std::string cancel_caption;
+    std::string initial_folder;       // path as bytes
+    std::vector<FileFilter> filters;  // offered in order; a front adds "All files" behind them
+};
+
+}  // namespace tavrik::front

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "toolkit/front/descriptions.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+
+// What the core asks of whatever shows it to a person. Everything runs on the main thread, except post().
+//
+// A face shows one thing and holds no truth: apply() takes the whole state each time, so that a face made late,
+// or made anew, shows the same as one that was there from the start. Listeners outlive their faces, and are
+// boundaries: nothing thrown leaves them. A listener may destroy the very face that reports to it.
+namespace tavrik::front {
+
+class ButtonListener {
+public:
+    virtual void pressed() = 0;
+    virtual void focus_changed(bool has_focus) = 0;
+
+protected:
+    ~ButtonListener() = default;
+};
+
+class ButtonFace {
+public:
+    virtual ~ButtonFace() = default;
+    virtual void apply(const ButtonDescription& button) = 0;
+    virtual void set_focus() = 0;
+};
+
+class WindowListener {
+public:
+    // The person asked to close the window; the core decides, and destroys the face if it agrees.
+    virtual void close_requested() = 0;
+    virtual void activated(bool active) = 0;
+    virtual void moved(int left, int top) = 0;
+    virtual void resized(int width, int height) = 0;
+    // The menus are about to be looked at: the core may apply them anew before it returns.
+    virtual void menus_opening() = 0;
+    virtual void menu_chosen(MenuId chosen) = 0;
+
+protected:
+    ~WindowListener() = default;
+};
+
+class WindowFace {
+public:
+    virtual ~WindowFace() = default;
+    virtual void apply(const WindowDescription& window) = 0;
+    virtual void apply_menus(std::span<const MenuDescription> menus) = 0;
+    virtual std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) = 0;
+    virtual void bring_to_front() = 0;
+};
+
+class ApplicationListener {
+public:
+    // The desktop asks the whole program to end (the session ends, or a signal says so).
+    virtual void quit_requested() = 0;
+
+protected:
+    ~ApplicationListener() = default;
+};
+
+class Front {
+public:
+    virtual ~Front() = default;
+
+    // Dispatches what happens until quit() is called, however deep inside.
+    virtual void run() = 0;
+    virtual void quit() = 0;
+    // Dispatches what has happened by now, and waits for the first thing to happen if told to.
+    virtual void pump(bool wait) = 0;
+    // Runs `call` on the main thread, inside run() or pump(). The one member that any thread may call.
+    virtual void post(std::function<void()> call) = 0;
+
+    virtual std::unique_ptr<WindowFace> make_window(WindowListener& listener) = 0;
+
+    // Modal over `over`, or over the whole program if that is nullptr. Returns the index of the button pressed;
+    // closing the box counts as its cancel button.
+    virtual std::size_t show_message(const MessageDescription& message, WindowFace* over) = 0;
+    // The chosen path, as the bytes the file system has, or nothing if the person cancelled.
+    virtual std::optional<std::string> choose_file(const FileChoice& choice, WindowFace* over) = 0;
+};
+
+// What a front is started with.
+struct Start {
+    std::string program_name;  // shown where a window has no title
+    ApplicationListener& application;
+};
+
+// A front module exports this under the name kMakeFrontSymbol. nullptr: there is nothing to show on, and `reason`
+// says why.
+using MakeFront = Front* (*)(const Start& start, std::string& reason);
+inline constexpr const char* kMakeFrontSymbol = "tavrik_make_front";
+
+}  // namespace tavrik::front
