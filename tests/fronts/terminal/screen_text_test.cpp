@@ -1,0 +1,74 @@
+#include "toolkit/fronts/terminal/screen_text.h"
+
+#include <gtest/gtest.h>
+
+#include "toolkit/fronts/terminal/menu_entries.h"
+
+namespace tavrik::front::terminal {
+namespace {
+
+MenuDescription item(MenuId id, const char* text) { return {.id = id, .text = text}; }
+
+MenuDescription menu(const char* text, std::vector<MenuDescription> children) {
+    MenuDescription made = item(0, text);
+    made.children = std::move(children);
+    return made;
+}
+
+TEST(ScreenText, A_window_shows_its_title_its_menus_and_its_numbered_controls) {
+    MenuDescription undo = item(2, "&Undo");
+    undo.enabled = false;
+    MenuDescription grid = item(3, "&Grid");
+    grid.checked = true;
+    MenuDescription snap = item(4, "Snap");
+    snap.checked = true;
+    snap.enabled = false;
+    MenuDescription separator = item(5, "-");
+    separator.separator = true;
+    MenuDescription secret = item(6, "Secret");
+    secret.visible = false;
+    MenuDescription more = menu("&More", {item(7, "Deep")});
+    more.enabled = false;
+    const MenuDescription bar[] = {menu("&File", {item(1, "&Quit")}),
+                                   menu("&Edit", {undo, more, separator, grid, secret, snap}), menu("Empty", {})};
+
+    const WindowView window{"maptool", menu_entries(bar), {{"Load Map", "", true}, {"Name", "valley", false}, {}}};
+    EXPECT_EQ(window_text(window),
+              "maptool\n"
+              "File: Quit\n"
+              "Edit: Undo (off), Grid (checked), Snap (checked, off)\n"
+              "Edit/More: Deep (off)\n"
+              "1. Load Map\n"
+              "2. Name: valley (off)\n"
+              "3.\n");
+}
+
+TEST(ScreenText, A_message_shows_its_texts_and_its_buttons) {
+    const MessageDescription message{.title = "Quit",
+                                     .text = "Save\x1b?\nIt has changed.\r\n\rReally.\n",
+                                     .explanation = "Or not",
+                                     .buttons = {"&Save", "Cancel"},
+                                     .default_button = 1};
+    EXPECT_EQ(message_text(message),
+              "Quit\n"
+              "Save\\x1b?\n    It has changed.\n\n    Really.\n"
+              "Or not\n"
+              "Buttons: Save, Cancel (default)\n");
+}
+
+TEST(ScreenText, A_file_choice_shows_what_is_asked) {
+    const FileChoice choice{.title = "Open",
+                            .prompt = "Which map?",
+                            .initial_folder = "/maps\n",
+                            .filters = {{"Maps", {"map", "bsp"}}, {"Texts", {}}}};
+    EXPECT_EQ(file_choice_text(choice),
+              "Open\n"
+              "Which map?\n"
+              "Files: Maps (*.map, *.bsp), Texts, All files\n"
+              "Folder: /maps\\n\n"
+              "Path, or an empty line to cancel:\n");
+    EXPECT_EQ(file_choice_text({}), kPathPrompt);
+}
+
+}  // namespace
+}  // namespace tavrik::front::terminal

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "toolkit/fronts/terminal/window_view.h"
+
+namespace tavrik::front::terminal {
+
+// The entries of a menu bar that can be seen, menu by menu: those of a menu stand together, and the menus inside it
+// follow. An entry is enabled if all the menus around it are.
+std::vector<MenuEntry> menu_entries(std::span<const MenuDescription> menu_bar);
+
+}  // namespace tavrik::front::terminal

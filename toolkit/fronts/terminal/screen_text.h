@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "toolkit/fronts/terminal/window_view.h"
+
+// What is in front as the lines that are printed of it, each with its line end.
+namespace tavrik::front::terminal {
+
+std::string window_text(const WindowView& window);
+std::string message_text(const MessageDescription& message);
+std::string file_choice_text(const FileChoice& choice);
+
+// The last line of file_choice_text(), which also stands behind the reason why a path was turned down.
+inline constexpr const char* kPathPrompt = "Path, or an empty line to cancel:\n";
+
+}  // namespace tavrik::front::terminal

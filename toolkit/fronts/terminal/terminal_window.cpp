@@ -1,0 +1,46 @@
+#include "toolkit/fronts/terminal/terminal_window.h"
+
+#include <utility>
+
+#include "toolkit/fronts/terminal/captions.h"
+#include "toolkit/fronts/terminal/menu_entries.h"
+#include "toolkit/fronts/terminal/terminal_button.h"
+#include "toolkit/fronts/terminal/window_stack.h"
+
+namespace tavrik::front::terminal {
+
+TerminalWindow::TerminalWindow(WindowListener& listener, std::shared_ptr<WindowStack> stack)
+    : listener_(listener), stack_(std::move(stack)) {
+    stack_->add(*this);
+}
+
+TerminalWindow::~TerminalWindow() { stack_->remove(*this); }
+
+void TerminalWindow::apply(const WindowDescription& window) {
+    const bool appears = window.visible && !window_.visible;
+    window_ = window;
+    if (appears) stack_->raise(*this);
+}
+
+void TerminalWindow::apply_menus(std::span<const MenuDescription> menus) { entries_ = menu_entries(menus); }
+
+std::unique_ptr<ButtonFace> TerminalWindow::make_button(ButtonListener& listener) {
+    return std::make_unique<TerminalButton>(listener, controls_);
+}
+
+void TerminalWindow::bring_to_front() { stack_->raise(*this); }
+
+std::vector<MenuEntry> TerminalWindow::entries() const {
+    return window_.menu_bar_visible ? entries_ : std::vector<MenuEntry>();
+}
+
+std::vector<Control*> TerminalWindow::controls() const { return controls_->in_tab_order(); }
+
+WindowView TerminalWindow::view(std::string_view untitled) const {
+    const std::string_view title = window_.title.empty() ? untitled : window_.title;
+    WindowView view{.title = printable(title), .entries = entries(), .controls = {}};
+    for (const Control* control : controls()) view.controls.push_back(control->view());
+    return view;
+}
+
+}  // namespace tavrik::front::terminal

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/front/front.h"
+#include "toolkit/fronts/terminal/control.h"
+#include "toolkit/fronts/terminal/window_view.h"
+
+namespace tavrik::front::terminal {
+
+class WindowStack;
+
+class TerminalWindow final : public WindowFace {
+public:
+    TerminalWindow(WindowListener& listener, std::shared_ptr<WindowStack> stack);
+    TerminalWindow(const TerminalWindow&) = delete;
+    TerminalWindow& operator=(const TerminalWindow&) = delete;
+    ~TerminalWindow() override;
+
+    void apply(const WindowDescription& window) override;
+    void apply_menus(std::span<const MenuDescription> menus) override;
+    std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) override;
+    void bring_to_front() override;
+
+    WindowListener& listener() const { return listener_; }
+    bool visible() const { return window_.visible; }
+    // The entries that can be seen: none while the menu bar is hidden.
+    std::vector<MenuEntry> entries() const;
+    std::vector<Control*> controls() const;
+    // `untitled` stands where the window has no title.
+    WindowView view(std::string_view untitled) const;
+
+private:
+    WindowListener& listener_;
+    std::shared_ptr<WindowStack> stack_;
+    std::shared_ptr<ControlList> controls_ = std::make_shared<ControlList>();
+    WindowDescription window_;
+    std::vector<MenuEntry> entries_;
+};
+
+}  // namespace tavrik::front::terminal

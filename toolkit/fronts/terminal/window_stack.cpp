@@ -1,0 +1,37 @@
+#include "toolkit/fronts/terminal/window_stack.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "toolkit/fronts/terminal/terminal_window.h"
+
+namespace tavrik::front::terminal {
+
+void WindowStack::add(TerminalWindow& window) { windows_.push_back(&window); }
+
+void WindowStack::remove(TerminalWindow& window) {
+    std::erase(windows_, &window);
+    if (active_ == &window) active_ = nullptr;
+}
+
+void WindowStack::raise(TerminalWindow& window) {
+    std::erase(windows_, &window);
+    windows_.push_back(&window);
+}
+
+TerminalWindow* WindowStack::frontmost() const {
+    const auto found =
+        std::find_if(windows_.rbegin(), windows_.rend(), [](const auto* each) { return each->visible(); });
+    return found == windows_.rend() ? nullptr : *found;
+}
+
+void WindowStack::report_activation() {
+    TerminalWindow* window = frontmost();
+    if (window == active_) return;
+    TerminalWindow* before = std::exchange(active_, window);
+    if (before != nullptr) before->listener().activated(false);
+    // The report may have changed the front, or destroyed the window.
+    if (window != nullptr && active_ == window) window->listener().activated(true);
+}
+
+}  // namespace tavrik::front::terminal
