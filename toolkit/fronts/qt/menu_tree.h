@@ -1,0 +1,53 @@
+#pragma once
+
+#include "toolkit/front/descriptions.h"
+
+#include <QMenuBar>
+#include <functional>
+#include <span>
+#include <vector>
+
+class QAction;
+class QMenu;
+
+namespace tavrik::front::qt {
+
+// The menus of one menu bar. Entries that stay the same in kind are kept and updated, so the menus can change while
+// one of them is about to open or has just been chosen from.
+class MenuTree {
+public:
+    struct Reports {
+        std::function<void()> opening;
+        std::function<void(MenuId)> chosen;
+    };
+
+    MenuTree(QMenuBar& bar, Reports reports);
+
+    void apply(std::span<const MenuDescription> menus);
+
+private:
+    // Qt's tree owns the action and the menu.
+    struct Entry {
+        MenuId id = 0;
+        bool separator = false;
+        QAction* action = nullptr;
+        QMenu* menu = nullptr;
+        std::vector<Entry> children;
+    };
+
+    static bool fits(const Entry& entry, const MenuDescription& wanted, bool top_level);
+
+    void sync(QWidget& parent, std::vector<Entry>& entries, std::span<const MenuDescription> wanted);
+    void rebuild(QWidget& parent, std::vector<Entry>& entries, std::span<const MenuDescription> wanted);
+    Entry make(QWidget& parent, const MenuDescription& wanted);
+    Entry make_menu(QWidget& parent, const MenuDescription& wanted);
+    Entry make_action(QWidget& parent, const MenuDescription& wanted);
+    void update(Entry& entry, const MenuDescription& wanted);
+    bool is_bar(const QWidget& parent) const { return &parent == &bar_; }
+
+    QMenuBar& bar_;
+    Reports reports_;
+    std::vector<Entry> entries_;
+};
+
+}  // namespace tavrik::front::qt

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "toolkit/front/front.h"
+#include "toolkit/fronts/qt/open_dialogs.h"
+#include "toolkit/fronts/qt/quit_requests.h"
+
+#include <QApplication>
+#include <array>
+#include <string>
+#include <vector>
+
+class QEventLoop;
+
+namespace tavrik::front::qt {
+
+// There is one at a time, as of QApplication.
+class QtFront final : public Front {
+public:
+    explicit QtFront(const Start& start);
+    ~QtFront() override;
+
+    void run() override;
+    void quit() override;
+    void pump(bool wait) override;
+    void post(std::function<void()> call) override;
+
+    std::unique_ptr<WindowFace> make_window(WindowListener& listener) override;
+
+    std::size_t show_message(const MessageDescription& message, WindowFace* over) override;
+    std::optional<std::string> choose_file(const FileChoice& choice, WindowFace* over) override;
+
+private:
+    // QApplication keeps referring to what it is started with.
+    struct Arguments {
+        explicit Arguments(std::string program_name);
+        std::string program;
+        std::array<char*, 2> values;
+        int count = 1;
+    };
+
+    Arguments arguments_;
+    QApplication application_;
+    QuitRequests quit_requests_;
+    QObject posted_calls_;
+    OpenDialogs dialogs_;
+    std::vector<QEventLoop*> loops_;
+    bool quitting_ = false;  // from quit() until run() has ended
+};
+
+}  // namespace tavrik::front::qt

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QKeySequence>
+#include <string_view>
+
+namespace tavrik::front::qt {
+
+// Reads "Cmd+Shift+Q"; empty where the text names no key.
+QKeySequence to_shortcut(std::string_view text);
+
+}  // namespace tavrik::front::qt

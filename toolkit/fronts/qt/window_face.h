@@ -1,0 +1,27 @@
+#pragma once
+
+#include "toolkit/front/front.h"
+#include "toolkit/fronts/qt/window.h"
+
+namespace tavrik::front::qt {
+
+class QtWindowFace final : public WindowFace {
+public:
+    explicit QtWindowFace(WindowListener& listener);
+
+    void apply(const WindowDescription& window) override;
+    void apply_menus(std::span<const MenuDescription> menus) override;
+    std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) override;
+    void bring_to_front() override;
+
+    Window& window() { return *window_; }
+
+private:
+    struct Retire {
+        void operator()(Window* window) const { window->retire(); }
+    };
+
+    std::unique_ptr<Window, Retire> window_;
+};
+
+}  // namespace tavrik::front::qt
