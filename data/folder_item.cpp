@@ -1,0 +1,30 @@
+#include "data/folder_item.h"
+
+namespace tavrik {
+namespace {
+
+void name_dependencies(Object*) {}
+
+constexpr OperationRow kOperations[] = {
+    operation<&FolderItem::OpenAsBinaryFile, FolderItemOpenBinaryFile>("OpenAsBinaryFile"),
+    operation<&FolderItem::__DependencyList, name_dependencies>("__DependencyList").not_public(),
+};
+
+constexpr PropertyRow kProperties[] = {
+    property<&FolderItem::AbsolutePath>("AbsolutePath"),
+    property<&FolderItem::Name>("Name"),
+    property<&FolderItem::LastErrorCode, &FolderItem::set_LastErrorCode>("LastErrorCode"),
+};
+
+}  // namespace
+
+const ClassDefinition& FolderItem::definition() {
+    static constexpr ClassDefinition kDefinition = define<FolderItem>({
+        .exit = exit_forwards_to<FolderItem, FolderItemDestructor>,
+        .operations = kOperations,
+        .properties = kProperties,
+    });
+    return kDefinition;
+}
+
+}  // namespace tavrik
