@@ -1,0 +1,61 @@
+#include "maptool/initialize.h"
+
+#include "data/application.h"
+#include "data/binary_stream.h"
+#include "data/dictionary.h"
+#include "data/file_type.h"
+#include "data/folder_item.h"
+#include "data/streams.h"
+#include "data/variants.h"
+#include "maptool/app.h"
+#include "maptool/menu_bar1.h"
+#include "maptool/window1.h"
+#include "runtime/exceptions.h"
+#include "runtime/tavrik_module.h"
+#include "ui/control.h"
+#include "ui/menu_bar.h"
+#include "ui/pane.h"
+#include "ui/push_button.h"
+#include "ui/quit_menu_item.h"
+#include "ui/rect_control.h"
+#include "ui/window.h"
+#include "ui/window_support.h"
+
+namespace tavrik {
+namespace {
+
+// Every class asks for its parent first, so the order is free; it is the order of the class list.
+template <class... Classes>
+void build_classes() {
+    (Classes::__ctblinit(), ...);
+}
+
+}  // namespace
+
+void initialize() {
+    build_classes<Window>();
+    _WindowSupport::Windows__Init();
+    build_classes<Dictionary, MenuBar, MenuItem, QuitMenuItem,
+
+                  EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException,
+                  OutOfBoundsException, OutOfMemoryException, ServiceNotAvailableException, StackOverflowException,
+                  UnsupportedFormatException, ThreadEndException, ThreadAlreadyRunningException, RuntimeException,
+                  NilObjectException, IllegalCastException, InvalidParentException,
+
+                  FolderItem, Writeable, Readable, BinaryStream, Application, RectControl, Control,
+
+                  _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
+
+                  _VariantBoolean, _VariantString, FileType,
+
+                  App, Window1::Window1, MenuBar1::MenuBar1>();
+}
+
+void finalize() {
+    Tavrik::_mImplicitWindowList__Exit();
+    _WindowSupport::mDirtyWindows__Exit();
+    _WindowSupport::Windows__Exit();
+    MenuBar1::_implicitInstance__Exit();
+}
+
+}  // namespace tavrik

@@ -1,0 +1,14 @@
+#include "maptool/initialize.h"
+#include "maptool/start.h"
+
+#include <tavrik/runtime.h>
+
+#include <cstdlib>
+
+int main() {
+    tavrik::RuntimeInit();
+    tavrik::initialize();
+    tavrik::_Main();
+    tavrik::finalize();
+    std::exit(tavrik::RuntimeExit());
+}
