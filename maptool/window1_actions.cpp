@@ -16,24 +16,24 @@ using maptool::kMapFields;
 using maptool::kStateField;
 using maptool::MapField;
 
-// The window of the button that a handler is entered with.
-Window1* window_of(Local<Object> self, Local<Object> me) {
-    Ref<Object> window = self;
-    Ref<Object> button = me;
-    RuntimeSwapSelfAndMe(window, button);
-    self = window;
-    me = button;
-    return static_cast<Window1*>(self.get());
+// The window of the button that a handler is entered with. Both are held by the handler's frame.
+Local<Window1> window_of_button(Frame& frame, Object* entered) {
+    Ref<Object> self(entered);
+    Ref<Object> me;
+    RuntimeSwapSelfAndMe(self, me);
+    Local<Window1> window = frame.local(check_cast<Window1>(self));
+    frame.local(me);
+    return window;
 }
 
-void set_enabled(Window1* self, const String& button, bool enabled) {
-    check_cast<PushButton>(RuntimeWindowControlByName(self, button))->set_Enabled(enabled);
+void set_enabled(Local<Window1> window, const String& button, bool enabled) {
+    check_cast<PushButton>(RuntimeWindowControlByName(window.get(), button))->set_Enabled(enabled);
 }
 
-void write_fields(Window1* self, std::int32_t MapField::*value) {
+void write_fields(Local<Window1> window, std::int32_t MapField::*value) {
     for (const MapField& field : kMapFields) {
-        self->br->set_Position(field.offset);
-        self->br->WriteInt32(field.*value);
+        window->br->set_Position(field.offset);
+        window->br->WriteInt32(field.*value);
         RuntimeBackgroundTask();
     }
 }
@@ -42,7 +42,7 @@ void write_fields(Window1* self, std::int32_t MapField::*value) {
 
 void load_map(Object* entered) {
     Frame frame(entered);
-    Window1* const self = window_of(frame.local<Object>(entered), frame.local<Object>());
+    const Local<Window1> self = window_of_button(frame, entered);
     Local<FileType> type = frame.local<FileType>();
 
     type = static_ref<FileType>(self->__New(FileType::__Lookup()));
@@ -59,7 +59,7 @@ void load_map(Object* entered) {
 
 void null_bsp(Object* entered) {
     Frame frame(entered);
-    Window1* const self = window_of(frame.local<Object>(entered), frame.local<Object>());
+    const Local<Window1> self = window_of_button(frame, entered);
 
     write_fields(self, &MapField::when_nulled);
     Tavrik::MsgBox("BSP Nulled."_s);
@@ -69,7 +69,7 @@ void null_bsp(Object* entered) {
 
 void undo_null(Object* entered) {
     Frame frame(entered);
-    Window1* const self = window_of(frame.local<Object>(entered), frame.local<Object>());
+    const Local<Window1> self = window_of_button(frame, entered);
 
     write_fields(self, &MapField::when_restored);
     Tavrik::MsgBox("BSP Un-Nulled."_s);

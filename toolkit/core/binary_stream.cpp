@@ -140,7 +140,7 @@ private:
     void note_end() {
         if (error_ != StreamError::kNone) return;
         note(StreamError::kEndOfData,
-             core::describe_failure(path(), "read at byte " + std::to_string(position_), "the file ends before"));
+             core::describe_failure(path(), "read at byte " + std::to_string(position_), "the file is too short"));
     }
     void note(StreamError error, std::string failure) {
         error_ = error;

@@ -12,13 +12,6 @@
 namespace tavrik::core {
 namespace {
 
-EventScope* innermost = nullptr;
-
-EventScope& current_scope() {
-    static EventScope* const outside = new EventScope;  // becomes the innermost for good
-    return innermost == nullptr ? *outside : *innermost;
-}
-
 constinit Event<bool(Object*)> unhandled_exception{"Application", "UnhandledException"};
 
 bool is(Object* object, std::string_view class_name) { return RuntimeObjectIsa(object, find_class(class_name)); }
@@ -63,17 +56,26 @@ void raise_what_releases_left() {
 
 }  // namespace
 
-EventScope::EventScope() : outer_(std::exchange(innermost, this)) {}
+EventScope* EventScope::innermost_ = nullptr;
 
-EventScope::~EventScope() { innermost = outer_; }
+EventScope::EventScope() : outer_(std::exchange(innermost_, this)) {}
 
-void EventScope::note_failure(std::string reason) { current_scope().failure_ = std::move(reason); }
+EventScope::~EventScope() { innermost_ = outer_; }
 
-std::string_view EventScope::last_failure() { return current_scope().failure_; }
+EventScope::Notes& EventScope::current() {
+    static auto* const outside = new Notes;  // outlives whatever might take a note at the end of the process
+    return innermost_ == nullptr ? *outside : innermost_->notes_;
+}
 
-void EventScope::note_cancel() { current_scope().cancelled_ = true; }
+void EventScope::note_failure(std::string reason) { current().failure = std::move(reason); }
 
-bool EventScope::cancelled() { return current_scope().cancelled_; }
+std::string_view EventScope::last_failure() { return current().failure; }
+
+void EventScope::note_cancel() { current().cancelled = true; }
+
+bool EventScope::cancelled() { return current().cancelled; }
+
+bool EventScope::inside_event() { return innermost_ != nullptr; }
 
 void deliver(const std::function<void()>& event) noexcept {
     const EventScope scope;

@@ -7,7 +7,7 @@
 namespace tavrik::core {
 
 // What is known of the event that is being handled. Events nest where a dialog is open inside a handler. Outside of
-// any event, at start-up, one scope that never ends takes the notes.
+// any event, at start-up, the program itself takes the notes.
 class EventScope {
 public:
     EventScope();
@@ -23,10 +23,19 @@ public:
     static void note_cancel();
     static bool cancelled();
 
+    static bool inside_event();
+
 private:
+    struct Notes {
+        std::string failure;
+        bool cancelled = false;
+    };
+    static Notes& current();
+
+    static EventScope* innermost_;
+
     EventScope* outer_;
-    std::string failure_;
-    bool cancelled_ = false;
+    Notes notes_;
 };
 
 // Runs code that a front, a thread or a C callback enters the program with, as one event. Nothing leaves it: an

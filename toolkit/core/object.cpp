@@ -21,24 +21,22 @@ Object* waiting_first = nullptr;
 Object* waiting_last = nullptr;
 
 // A dead object needs no count: its place holds the link of the queue.
-Object*& link(Object* object) {
-    static_assert(sizeof(object->count) == sizeof(Object*));
-    return reinterpret_cast<Object*&>(object->count);
-}
+void set_next(Object* object, Object* next) { object->count = reinterpret_cast<std::intptr_t>(next); }
+Object* next_of(const Object* object) { return reinterpret_cast<Object*>(object->count); }
 
 void enqueue(Object* object) {
-    link(object) = nullptr;
+    set_next(object, nullptr);
     if (waiting_first == nullptr) {
         waiting_first = object;
     } else {
-        link(waiting_last) = object;
+        set_next(waiting_last, object);
     }
     waiting_last = object;
 }
 
 Object* dequeue() {
     Object* const object = waiting_first;
-    waiting_first = link(object);
+    waiting_first = next_of(object);
     return object;
 }
 

@@ -16,6 +16,12 @@ namespace tavrik {
 namespace core {
 namespace {
 
+#ifdef NDEBUG
+constexpr bool kListsLiveObjects = false;
+#else
+constexpr bool kListsLiveObjects = true;
+#endif
+
 class Quitter final : public front::ApplicationListener {
 public:
     void quit_requested() override {
@@ -128,14 +134,14 @@ std::int32_t RuntimeExit() {
     core::deliver([] { core::close_all_windows(core::AppIsQuitting::kNoMatterWhat); });
     core::deliver([&] { program.app = nullptr; });
     program.front = nullptr;
-#ifndef NDEBUG
-    core::list_live_objects();
-#endif
+    if (core::kListsLiveObjects) core::list_live_objects();
     return program.exit_status;
 }
 
 void RuntimeUnhandledException(Object* exception) {
-    if (exception == nullptr) return;
+    if (exception == nullptr || RuntimeObjectIsa(exception, core::find_class("EndException"))) return;
+    // Outside of an event nothing has caught it before the run loop ended.
+    if (!core::EventScope::inside_event()) core::program().exit_status = 1;
     core::tell_failure(core::message_of(exception));
 }
 

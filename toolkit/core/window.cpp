@@ -154,7 +154,8 @@ void WindowState::activated(bool active) {
     deliver([this, active] {
         const Ref<Object> self(self_);
         if (active) {
-            std::ranges::stable_partition(windows(), [&](const Ref<Object>& other) { return other != self; });
+            std::stable_partition(windows().begin(), windows().end(),
+                                  [&](const Ref<Object>& other) { return other != self; });
             call_activated(self_);
         } else {
             call_deactivated(self_);
