@@ -22,7 +22,7 @@ namespace {
 
 template <class Item>
 Ref<MenuItem> make_item(const String& name, const String& text) {
-    const Ref<MenuItem> item = make<Item>();
+    Ref<MenuItem> item = make<Item>();
     item->Constructor();
     item->set_Name(name);
     item->set_AutoEnable(true);
@@ -32,7 +32,7 @@ Ref<MenuItem> make_item(const String& name, const String& text) {
 
 template <class Item>
 Ref<MenuItem> make_item(const String& name, const String& text, const String& shortcut) {
-    const Ref<MenuItem> item = make_item<Item>(name, text);
+    Ref<MenuItem> item = make_item<Item>(name, text);
     item->set_KeyboardShortcut(shortcut);
     return item;
 }

@@ -40,9 +40,9 @@ void write_fields(Local<Window1> window, std::int32_t MapField::*value) {
 
 }  // namespace
 
-void load_map(Object* entered) {
-    Frame frame(entered);
-    const Local<Window1> self = window_of_button(frame, entered);
+void load_map(Object* button) {
+    Frame frame(button);
+    const Local<Window1> self = window_of_button(frame, button);
     Local<FileType> type = frame.local<FileType>();
 
     type = static_ref<FileType>(self->__New(FileType::__Lookup()));
@@ -57,9 +57,9 @@ void load_map(Object* entered) {
     set_enabled(self, intact ? "NullBSP"_s : "Undo"_s, true);
 }
 
-void null_bsp(Object* entered) {
-    Frame frame(entered);
-    const Local<Window1> self = window_of_button(frame, entered);
+void null_bsp(Object* button) {
+    Frame frame(button);
+    const Local<Window1> self = window_of_button(frame, button);
 
     write_fields(self, &MapField::when_nulled);
     Tavrik::MsgBox("BSP Nulled."_s);
@@ -67,9 +67,9 @@ void null_bsp(Object* entered) {
     set_enabled(self, "Undo"_s, true);
 }
 
-void undo_null(Object* entered) {
-    Frame frame(entered);
-    const Local<Window1> self = window_of_button(frame, entered);
+void undo_null(Object* button) {
+    Frame frame(button);
+    const Local<Window1> self = window_of_button(frame, button);
 
     write_fields(self, &MapField::when_restored);
     Tavrik::MsgBox("BSP Un-Nulled."_s);

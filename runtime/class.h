@@ -10,6 +10,7 @@
 #include <tavrik/exception.h>
 #include <tavrik/runtime.h>
 
+#include <algorithm>
 #include <type_traits>
 
 namespace tavrik {
@@ -112,10 +113,7 @@ constexpr auto parent_lookup(const Class<Self, Parent>*) -> ClassRecord* (*)() {
 
 template <class Row>
 constexpr bool any(std::span<const Row> rows, bool Row::*what) {
-    for (const Row& row : rows) {
-        if (row.*what) return true;
-    }
-    return false;
+    return std::ranges::any_of(rows, what);
 }
 
 }  // namespace detail

@@ -101,7 +101,10 @@ public:
         return *this;
     }
     Local(const Local&) = default;
-    Local& operator=(const Local& other) noexcept { return *this = static_cast<Ref<T>>(other); }
+    Local& operator=(const Local& other) noexcept {
+        *this = static_cast<Ref<T>>(other);
+        return *this;
+    }
 
     operator Ref<T>() const noexcept { return Ref<T>::hold(place_); }
     operator Arg<T>() const noexcept { return Arg<T>::unchecked(place_); }
@@ -127,7 +130,10 @@ public:
         return *this;
     }
     LocalString(const LocalString&) = default;
-    LocalString& operator=(const LocalString& other) noexcept { return *this = static_cast<String>(other); }
+    LocalString& operator=(const LocalString& other) noexcept {
+        *this = static_cast<String>(other);
+        return *this;
+    }
 
     operator String() const noexcept { return String(place_); }
     std::string_view view() const noexcept { return tavrik::view(place_); }

@@ -23,7 +23,7 @@ constexpr bool kPooled = true;
 
 constexpr std::size_t kGrain = 16;
 constexpr std::size_t kLargestPooled = 512;
-constexpr std::size_t kChunk = 32 * 1024;
+constexpr std::size_t kChunk = std::size_t{32} * 1024;
 
 struct FreeBlock {
     FreeBlock* next;

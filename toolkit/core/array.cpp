@@ -98,11 +98,19 @@ struct Elements {
         elements.erase(elements.begin() + index);
     }
 
+    static bool is(const Stored<T>& element, Argument value) {
+        if constexpr (std::is_same_v<T, Object>) {
+            return element.object() == value;
+        } else {
+            return element == value;
+        }
+    }
+
     static std::int32_t index_of(Array* array, Argument value, std::int32_t start) {
         const auto& elements = all(array);
         const std::ptrdiff_t from = std::clamp<std::ptrdiff_t>(start, 0, std::ssize(elements));
-        const Stored<T> sought(value);
-        const auto found = std::find(elements.begin() + from, elements.end(), sought);
+        const auto found = std::find_if(elements.begin() + from, elements.end(),
+                                        [&](const Stored<T>& element) { return is(element, value); });
         return found == elements.end() ? -1 : static_cast<std::int32_t>(found - elements.begin());
     }
 

@@ -154,7 +154,7 @@ Ref<Object> RuntimeCheckCast(Object* object, const ClassRecord* record) {
         message += record == nullptr ? std::string_view("object") : view(record->name);
         RuntimeRaise("IllegalCastException", message);
     }
-    return Ref<Object>(object);
+    return {object};
 }
 
 const Function* RuntimeLookupInterfaceVtable(const Object* object, const ClassRecord* interface) {

@@ -13,8 +13,8 @@
 namespace tavrik::core {
 namespace {
 
-constexpr std::size_t kReadAhead = 16 * 1024;
-constexpr std::size_t kMostGathered = 64 * 1024;
+constexpr std::size_t kReadAhead = std::size_t{16} * 1024;
+constexpr std::size_t kMostGathered = std::size_t{64} * 1024;
 constexpr std::uint64_t kFarthest = std::numeric_limits<off_t>::max();
 
 template <class Call>

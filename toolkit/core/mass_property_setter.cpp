@@ -153,7 +153,7 @@ private:
 void RuntimeMassPropertySetter(Object* object, const String& packed) {
     if (object == nullptr) RaiseNilObjectException();
     const Ref<Object> kept(object);
-    const String bytes = packed;
+    const String bytes = packed;  // NOLINT(performance-unnecessary-copy-initialization): held while setters run
     PackedString(object, bytes.view()).apply();
 }
 

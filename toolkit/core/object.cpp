@@ -6,6 +6,7 @@
 
 #include <tavrik/runtime.h>
 
+#include <bit>
 #include <cstring>
 #include <string>
 
@@ -21,15 +22,15 @@ Object* waiting_first = nullptr;
 Object* waiting_last = nullptr;
 
 // A dead object needs no count: its place holds the link of the queue.
-void set_next(Object* object, Object* next) { object->count = reinterpret_cast<std::intptr_t>(next); }
-Object* next_of(const Object* object) { return reinterpret_cast<Object*>(object->count); }
+void link(Object* object, Object* next) { object->count = std::bit_cast<std::intptr_t>(next); }
+Object* next_of(const Object* object) { return std::bit_cast<Object*>(object->count); }
 
 void enqueue(Object* object) {
-    set_next(object, nullptr);
+    link(object, nullptr);
     if (waiting_first == nullptr) {
         waiting_first = object;
     } else {
-        set_next(waiting_last, object);
+        link(waiting_last, object);
     }
     waiting_last = object;
 }

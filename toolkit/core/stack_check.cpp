@@ -12,7 +12,7 @@ constinit thread_local std::uintptr_t runtime_stack_limit = UINTPTR_MAX;
 namespace {
 
 // What must be left for raising, unwinding and the code of the system's libraries, which checks nothing.
-constexpr std::uintptr_t kReserve = 256 * 1024;
+constexpr std::uintptr_t kReserve = std::uintptr_t{256} * 1024;
 
 #if defined(__APPLE__)
 std::uintptr_t find_stack_limit() {

@@ -89,10 +89,9 @@ WindowState& window_state(Object* window) {
 const std::vector<Ref<Object>>& open_windows() { return windows(); }
 
 Object* frontmost_window() {
-    for (auto at = windows().rbegin(); at != windows().rend(); ++at) {
-        if (window_state(at->object()).face() != nullptr) return at->object();
-    }
-    return nullptr;
+    const auto has_face = [](const Ref<Object>& window) { return window_state(window.object()).face() != nullptr; };
+    const auto found = std::find_if(windows().rbegin(), windows().rend(), has_face);
+    return found == windows().rend() ? nullptr : found->object();
 }
 
 front::WindowFace* frontmost_face() {
@@ -207,10 +206,8 @@ bool close_window(Object* window, AppIsQuitting quitting) {
 
 bool close_all_windows(AppIsQuitting quitting) {
     const std::vector<Ref<Object>> all = windows();
-    for (auto at = all.rbegin(); at != all.rend(); ++at) {
-        if (!close_window(at->object(), quitting)) return false;
-    }
-    return true;
+    return std::all_of(all.rbegin(), all.rend(),
+                       [&](const Ref<Object>& window) { return close_window(window.object(), quitting); });
 }
 
 }  // namespace core
