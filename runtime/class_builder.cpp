@@ -160,7 +160,7 @@ private:
     void add_method(StringRecord* name, StringRecord* signature, std::int32_t flags, Function function,
                     Function invoker) {
         const auto is_same = [&](const MethodRecord& other) {
-            return other.signature == signature && other.flags == flags && view(other.name) == view(name);
+            return other.flags == flags && view(other.name) == view(name) && view(other.signature) == view(signature);
         };
         if (std::any_of(first_own_method_, next_method_, is_same))
             fail("declares an operation twice", view(name).data());

@@ -52,7 +52,9 @@ private:
 
     class Places {
     public:
-        ~Places() { release(); }
+        ~Places() {
+            if (count_ != 0) release();
+        }
 
         Place& add(Object* object, StringRecord* string) {
             Place& place = count_ < first_.size() ? first_[count_] : one_more();

@@ -92,15 +92,23 @@ constexpr std::int32_t flags_of_name(const char* name) {
 
 inline Function no_invoker() { return nullptr; }
 
+template <auto Body>
+Function itself() {
+    return reinterpret_cast<Function>(+Body);
+}
+
 template <auto Member, auto Body, class C>
 constexpr OperationRow make_operation(const char* name, Placing placing) {
     using M = decltype(Member);
+    // Records without a slot that name one function have one, as long as it needs no adapting.
+    const bool stands_itself =
+        placing == Placing::kWithoutSlot && std::is_same_v<decltype(+Body), typename MemberTraits<M>::Entry>;
     return {.name = name,
             .signature = SignatureOfMember<M>::record,
             .placing = placing,
             .flags = flags_of_name(name),
             .slot = placing == Placing::kWithoutSlot ? nullptr : &slot_of<Member>,
-            .function = &Entry<Member, Body, C, M, decltype(+Body)>::function,
+            .function = stands_itself ? &itself<Body> : &Entry<Member, Body, C, M, decltype(+Body)>::function,
             .invoker = &no_invoker};
 }
 

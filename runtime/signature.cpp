@@ -9,7 +9,7 @@ bool is_digit(char c) { return c >= '0' && c <= '9'; }
 std::size_t name_length(std::string_view text) {
     if (!text.starts_with('<')) return 0;
     const std::size_t end = text.find_first_of("<>%", 1);
-    return end == std::string_view::npos || text[end] != '>' ? 0 : end + 1;
+    return end == std::string_view::npos || end == 1 || text[end] != '>' ? 0 : end + 1;
 }
 
 bool is_width(char letter, char width) {

@@ -156,7 +156,7 @@ inline constexpr TextBuffer class_name_text = class_name<T>();
 
 }  // namespace detail
 
-// The static strings that stand in records: one for each text.
+// The static strings that stand in records: one for each list of types.
 template <class T>
 constexpr StringRecord* type_code_record = &detail::static_text<detail::type_code_text<T>>.record;
 template <class R, class... A>

@@ -1,7 +1,6 @@
-#include <tavrik/array.h>
-
 #include "toolkit/core/class_state.h"
 
+#include <tavrik/array.h>
 #include <tavrik/exception.h>
 #include <tavrik/runtime.h>
 
@@ -29,11 +28,13 @@ struct ArrayState : NativeState {
     RuntimeRaise("OutOfBoundsException", "the array has no element " + std::to_string(index));
 }
 
+[[noreturn]] void raise_no_memory() { RuntimeRaise("OutOfMemoryException", "no memory for an array"); }
+
 std::size_t size_for(std::int32_t upper_bound, std::int32_t dimensions) {
     if (upper_bound < -1) raise_out_of_bounds(upper_bound);
     std::size_t size = 1;
     for (std::int32_t i = 0; i < dimensions; ++i) {
-        if (__builtin_mul_overflow(size, static_cast<std::size_t>(upper_bound) + 1, &size)) throw std::bad_alloc();
+        if (__builtin_mul_overflow(size, static_cast<std::size_t>(upper_bound) + 1, &size)) raise_no_memory();
     }
     return size;
 }
@@ -64,7 +65,7 @@ struct Elements {
         } catch (const std::bad_alloc&) {
         } catch (const std::length_error&) {
         }
-        RuntimeRaise("OutOfMemoryException", "no memory for an array");
+        raise_no_memory();
     }
 
     static Result read(Array* array, std::int32_t index) { return element(array, index); }
@@ -78,12 +79,16 @@ struct Elements {
     static void resize(Array* array, std::int32_t upper_bound) {
         auto& elements = all(array);
         const std::size_t size = size_for(upper_bound, state(array).dimensions);
+        // The elements cut off go last, as in write().
+        std::vector<Stored<T>> dropped;
+        grow([&] {
+            if (size < elements.size()) {
+                dropped.assign(std::make_move_iterator(elements.begin() + static_cast<std::ptrdiff_t>(size)),
+                               std::make_move_iterator(elements.end()));
+            }
+            elements.resize(size);
+        });
         state(array).upper_bound = upper_bound;
-        if (size >= elements.size()) return grow([&] { elements.resize(size); });
-        const std::vector<Stored<T>> dropped(
-            std::make_move_iterator(elements.begin() + static_cast<std::ptrdiff_t>(size)),
-            std::make_move_iterator(elements.end()));
-        elements.resize(size);
     }
 
     static void insert(Array* array, std::int32_t index, Argument value) {

@@ -58,12 +58,12 @@ public:
         if (!file_) return fail_not_open(), 0;
         int error = 0;
         const std::size_t count = file_->read(position_, bytes, error);
-        position_ += count;
         if (error != 0) {
             fail(StreamError::kReadFailed, "read", error);
         } else if (count < bytes.size()) {
             note_end();
         }
+        position_ += count;
         return count;
     }
 
@@ -88,6 +88,12 @@ public:
     void flush() {
         if (!file_) return;
         if (const int error = file_->flush()) fail(error_for_write(error), "written", error);
+    }
+
+    // At the end of an event: nothing is held back, and nothing old is kept.
+    void settle() {
+        flush();
+        if (file_) file_->forget_read();
     }
 
     void close() {
@@ -196,7 +202,7 @@ Ref<Object> make_binary_stream(FileStore file) {
 }
 
 void flush_all_streams() {
-    for (StreamState* const stream : streams().open) stream->flush();
+    for (StreamState* const stream : streams().open) stream->settle();
 }
 
 std::vector<std::string> take_unread_stream_failures() {

@@ -1,7 +1,6 @@
-#include <tavrik/class_record.h>
-
 #include "toolkit/core/class_state.h"
 
+#include <tavrik/class_record.h>
 #include <tavrik/exception.h>
 
 #include <algorithm>
@@ -72,10 +71,6 @@ ClassRecord* new_record(ClassRecord* parent, std::int32_t method_total, std::int
 }  // namespace
 
 namespace core {
-
-ClassState& state_of(const ClassRecord* record) noexcept {
-    return reinterpret_cast<ClassState*>(const_cast<ClassRecord*>(record))[-1];
-}
 
 void prepare(const ClassRecord* record, ClassState& state) {
     for (const ClassRecord* c = record; c != nullptr; c = c->parent) {

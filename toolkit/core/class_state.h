@@ -16,7 +16,9 @@ struct ClassState {
     std::vector<Lifecycle> exits;        // the innermost class's first
 };
 
-ClassState& state_of(const ClassRecord* record) noexcept;
+inline ClassState& state_of(const ClassRecord* record) noexcept {
+    return reinterpret_cast<ClassState*>(const_cast<ClassRecord*>(record))[-1];
+}
 
 // Collects the functions of the whole chain. A record is complete by the time that the first instance is made.
 void prepare(const ClassRecord* record, ClassState& state);

@@ -1,5 +1,3 @@
-#include <tavrik/dialogs.h>
-
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/file_type.h"
 #include "toolkit/core/folder_item.h"
@@ -7,6 +5,7 @@
 #include "toolkit/core/streams.h"
 #include "toolkit/core/window.h"
 
+#include <tavrik/dialogs.h>
 #include <tavrik/exception.h>
 
 namespace tavrik {

@@ -1,7 +1,6 @@
-#include <tavrik/dictionary.h>
-
 #include "toolkit/core/variant.h"
 
+#include <tavrik/dictionary.h>
 #include <tavrik/exception.h>
 #include <tavrik/runtime.h>
 

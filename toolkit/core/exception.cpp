@@ -1,11 +1,10 @@
-#include <tavrik/exception.h>
-
 #include "toolkit/core/class_state.h"
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/release.h"
 #include "toolkit/core/stack_trace.h"
 
+#include <tavrik/exception.h>
 #include <tavrik/runtime.h>
 
 #include <string>
@@ -37,8 +36,9 @@ Object* runtime_release_exception = nullptr;
 void RuntimeRaiseException(Object* exception) {
     if (exception == nullptr) RaiseNilObjectException();
     if (exception->native == nullptr) exception->native = new ExceptionState;
-    core::StackTrace& trace = native<ExceptionState>(exception)->trace;
-    if (trace.empty()) trace = core::StackTrace::here();
+    // Any object can be raised; only an exception has room for the note of where.
+    auto* const state = dynamic_cast<ExceptionState*>(exception->native);
+    if (state != nullptr && state->trace.empty()) state->trace = core::StackTrace::here();
     throw RaisedException{Ref<Object>(exception)};
 }
 
@@ -74,7 +74,7 @@ void RuntimeExceptionFinalizer(Object* exception) { delete std::exchange(excepti
 
 Ref<ArrayOf<String>> RuntimeExceptionStack(Object* exception) {
     auto lines = ArrayOf<String>::make();
-    const auto* const state = native<ExceptionState>(exception);
+    const auto* const state = dynamic_cast<const ExceptionState*>(exception->native);
     if (state == nullptr) return lines;
     for (const std::string& line : state->trace.lines()) lines->append(String(line));
     return lines;

@@ -27,10 +27,11 @@ auto retried(Call call) {
 // As many bytes as there are, however often the system returns early.
 std::size_t read_fully(int descriptor, std::uint64_t position, std::span<char> bytes, int& error) {
     std::size_t done = 0;
-    while (done < bytes.size() && position + done <= kFarthest) {
-        const ssize_t count = retried([&] {
-            return ::pread(descriptor, bytes.data() + done, bytes.size() - done, static_cast<off_t>(position + done));
-        });
+    while (done < bytes.size() && position + done < kFarthest) {
+        const std::uint64_t at = position + done;
+        const std::size_t wanted = std::min<std::uint64_t>(bytes.size() - done, kFarthest - at);
+        const ssize_t count =
+            retried([&] { return ::pread(descriptor, bytes.data() + done, wanted, static_cast<off_t>(at)); });
         if (count < 0) error = errno;
         if (count <= 0) break;
         done += static_cast<std::size_t>(count);

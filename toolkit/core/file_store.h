@@ -30,6 +30,8 @@ public:
     std::size_t read(std::uint64_t position, std::span<char> bytes, int& error);
     int write(std::uint64_t position, std::string_view bytes);
     int flush();
+    // What has been read ahead may be old by now, where others write to the file too.
+    void forget_read() { read_.clear(); }
     int close();
     std::uint64_t length(int& error);
     int set_length(std::uint64_t length);

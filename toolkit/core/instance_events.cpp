@@ -1,6 +1,6 @@
-#include <tavrik/runtime.h>
-
 #include "toolkit/core/class_state.h"
+
+#include <tavrik/runtime.h>
 
 #include <algorithm>
 #include <span>

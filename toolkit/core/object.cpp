@@ -1,9 +1,8 @@
-#include <tavrik/object.h>
-
 #include "toolkit/core/allocator.h"
 #include "toolkit/core/class_state.h"
 #include "toolkit/core/release.h"
 
+#include <tavrik/object.h>
 #include <tavrik/runtime.h>
 
 #include <bit>

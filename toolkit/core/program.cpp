@@ -8,9 +8,11 @@
 
 #include <tavrik/runtime.h>
 
+#include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
+#include <utility>
+#include <vector>
 
 namespace tavrik {
 namespace core {
@@ -115,8 +117,10 @@ void RuntimeInit() { check_stack(); }
 
 void RuntimeInitExternalClasses() {}
 
+// Tables live as long as the process.
 void* RuntimeAllocatePluginEntrypointsTable(std::int32_t entries) {
-    return std::calloc(static_cast<std::size_t>(entries < 1 ? 1 : entries), sizeof(Function));
+    static auto* const tables = new std::vector<std::unique_ptr<Function[]>>;
+    return tables->emplace_back(std::make_unique<Function[]>(static_cast<std::size_t>(std::max(entries, 1)))).get();
 }
 
 void RuntimeRegisterAppObject(Object* app) { core::program().app = Ref<Object>(app); }
@@ -135,7 +139,7 @@ std::int32_t RuntimeExit() {
     core::deliver([&] { program.app = nullptr; });
     program.front = nullptr;
     if (core::kListsLiveObjects) core::list_live_objects();
-    return program.exit_status;
+    return std::exchange(program.exit_status, 0);
 }
 
 void RuntimeUnhandledException(Object* exception) {

@@ -1,10 +1,9 @@
-#include <tavrik/push_button.h>
-
 #include "toolkit/core/control.h"
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/reflection.h"
 
 #include <tavrik/exception.h>
+#include <tavrik/push_button.h>
 
 #include <memory>
 #include <string>

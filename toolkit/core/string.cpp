@@ -1,6 +1,5 @@
-#include <tavrik/string.h>
-
 #include <tavrik/exception.h>
+#include <tavrik/string.h>
 
 #include <algorithm>
 #include <cstdlib>

@@ -30,7 +30,7 @@ std::string_view without_leading_space(std::string_view text) {
 
 bool begins_number(std::string_view text) {
     const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
-    if (!text.empty() && text.front() == '-') text.remove_prefix(1);
+    if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
     if (!text.empty() && text.front() == '.') text.remove_prefix(1);
     return !text.empty() && is_digit(text.front());
 }
@@ -89,8 +89,8 @@ String StringNthField(const String& text, const String& separator, std::int32_t 
 
 double StringVal(const String& text) {
     std::string_view digits = without_leading_space(text.view());
-    if (!digits.empty() && digits.front() == '+') digits.remove_prefix(1);
     if (!begins_number(digits)) return 0;
+    if (digits.front() == '+') digits.remove_prefix(1);
 
     double value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);

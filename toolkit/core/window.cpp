@@ -9,6 +9,7 @@
 
 #include <tavrik/class_record.h>
 #include <tavrik/dictionary.h>
+#include <tavrik/exception.h>
 #include <tavrik/fields.h>
 #include <tavrik/runtime.h>
 #include <tavrik/variant.h>
@@ -71,6 +72,16 @@ void for_each_control(Object* window, Use use) {
     const auto controls = control_list(window);
     if (!controls) return;
     for (std::int32_t i = 0; i <= controls->upper_bound(); ++i) use(controls->at(i));
+}
+
+// At the very end the class layer has let go of its lists, and raises when it finds them gone.
+bool agrees_to_close(Object* window, AppIsQuitting quitting) {
+    if (quitting != AppIsQuitting::kNoMatterWhat) return unified_close(window, quitting == AppIsQuitting::kYes);
+    try {
+        unified_close(window, true);
+    } catch (const RaisedException&) {
+    }
+    return true;
 }
 
 void forget(Object* window) {
@@ -189,17 +200,31 @@ void WindowState::menu_chosen(front::MenuId chosen) {
     deliver([this, chosen] { choose_menu_item(self_, chosen); });
 }
 
+// A window that has agreed to close is gone at the end, whatever its Close event does.
+class Leaving {
+public:
+    explicit Leaving(Object* window) : window_(window) {}
+    Leaving(const Leaving&) = delete;
+    Leaving& operator=(const Leaving&) = delete;
+    ~Leaving() {
+        window_state(window_).drop_face();
+        window_state(window_).set_menu_bar(nullptr);
+        forget(window_);
+    }
+
+private:
+    Object* window_;
+};
+
 bool close_window(Object* window, AppIsQuitting quitting) {
     const Ref<Object> kept(window);
-    WindowState& state = window_state(window);
     const bool is_open = std::ranges::find(windows(), kept) != windows().end();
     if (!is_open) return true;
-    const bool agrees = unified_close(window, quitting != AppIsQuitting::kNo);
-    if (!agrees && quitting != AppIsQuitting::kNoMatterWhat) return false;
-    closed_event(window);
-    state.drop_face();
-    state.set_menu_bar(nullptr);
-    forget(window);
+    if (!agrees_to_close(window, quitting)) return false;
+    {
+        const Leaving leaving(window);
+        closed_event(window);
+    }
     if (quitting == AppIsQuitting::kNo && windows().empty() && quits_with_last_window()) quit();
     return true;
 }

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QStyle>
 #include <QStyleOptionButton>
+
 #include <algorithm>
 
 namespace tavrik::front::qt {

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+
 #include <algorithm>
 #include <functional>
 #include <iterator>

@@ -3,6 +3,7 @@
 #include "toolkit/fronts/qt/button.h"
 
 #include <QWidget>
+
 #include <vector>
 
 namespace tavrik::front::qt {

@@ -1,15 +1,16 @@
 #include "toolkit/fronts/qt/display_probe.h"
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
 #include <QByteArray>
 #include <QByteArrayList>
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibrary>
 #include <QStringList>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>

@@ -6,6 +6,7 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
+
 #include <filesystem>
 
 namespace tavrik::front::qt {

@@ -3,6 +3,7 @@
 #include "toolkit/front/descriptions.h"
 
 #include <QStringList>
+
 #include <span>
 
 namespace tavrik::front::qt {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRect>
+
 #include <vector>
 
 // How a control that wants more room than its bounds give finds it. Bounds may be drawn closer than a desktop's own

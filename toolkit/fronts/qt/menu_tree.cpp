@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QMenu>
+
 #include <algorithm>
 #include <utility>
 

@@ -3,6 +3,7 @@
 #include "toolkit/front/descriptions.h"
 
 #include <QMenuBar>
+
 #include <functional>
 #include <span>
 #include <vector>

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+
 #include <algorithm>
 
 namespace tavrik::front::qt {

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QPointer>
+
 #include <vector>
 
 namespace tavrik::front::qt {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QUrl>
+
 #include <string>
 #include <string_view>
 

@@ -4,6 +4,7 @@
 
 #include <QPoint>
 #include <QSize>
+
 #include <optional>
 
 class QWidget;

@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QEventLoop>
+
 #include <clocale>
 #include <utility>
 

@@ -5,6 +5,7 @@
 #include "toolkit/fronts/qt/quit_requests.h"
 
 #include <QApplication>
+
 #include <array>
 #include <string>
 #include <vector>

@@ -3,6 +3,7 @@
 #include "toolkit/fronts/qt/text.h"
 
 #include <QtGlobal>
+
 #include <array>
 #include <optional>
 

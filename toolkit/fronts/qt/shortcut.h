@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QKeySequence>
+
 #include <string_view>
 
 namespace tavrik::front::qt {

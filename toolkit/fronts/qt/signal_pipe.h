@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QSocketNotifier>
+
 #include <signal.h>
 
-#include <QSocketNotifier>
 #include <array>
 #include <functional>
 #include <memory>

@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
+
 #include <algorithm>
 
 namespace tavrik::front::qt {

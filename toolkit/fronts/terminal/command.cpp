@@ -1,10 +1,10 @@
 #include "toolkit/fronts/terminal/command.h"
 
-#include <charconv>
-#include <system_error>
-
 #include "toolkit/fronts/terminal/captions.h"
 #include "toolkit/fronts/terminal/letter_case.h"
+
+#include <charconv>
+#include <system_error>
 
 namespace tavrik::front::terminal {
 namespace {

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "toolkit/fronts/terminal/window_view.h"
+
 #include <cstddef>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-
-#include "toolkit/fronts/terminal/window_view.h"
 
 // What a line names, white space around it taken off, letter case ignored.
 namespace tavrik::front::terminal {

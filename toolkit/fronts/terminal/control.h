@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "toolkit/fronts/terminal/window_view.h"
+
+#include <vector>
 
 namespace tavrik::front::terminal {
 

@@ -1,10 +1,10 @@
 #include "toolkit/fronts/terminal/file_question.h"
 
-#include <utility>
-
 #include "toolkit/fronts/terminal/captions.h"
 #include "toolkit/fronts/terminal/chosen_path.h"
 #include "toolkit/fronts/terminal/screen_text.h"
+
+#include <utility>
 
 namespace tavrik::front::terminal {
 

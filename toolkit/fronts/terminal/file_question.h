@@ -1,9 +1,9 @@
 #pragma once
 
-#include <optional>
-
 #include "toolkit/front/descriptions.h"
 #include "toolkit/fronts/terminal/question.h"
+
+#include <optional>
 
 namespace tavrik::front::terminal {
 

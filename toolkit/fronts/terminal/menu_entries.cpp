@@ -1,8 +1,8 @@
 #include "toolkit/fronts/terminal/menu_entries.h"
 
-#include <string>
-
 #include "toolkit/fronts/terminal/captions.h"
+
+#include <string>
 
 namespace tavrik::front::terminal {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "toolkit/fronts/terminal/window_view.h"
+
 #include <span>
 #include <vector>
-
-#include "toolkit/fronts/terminal/window_view.h"
 
 namespace tavrik::front::terminal {
 

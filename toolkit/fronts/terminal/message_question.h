@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstddef>
-
 #include "toolkit/front/descriptions.h"
 #include "toolkit/fronts/terminal/question.h"
+
+#include <cstddef>
 
 namespace tavrik::front::terminal {
 

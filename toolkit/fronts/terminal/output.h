@@ -1,6 +1,7 @@
 #pragma once
 
 #include <signal.h>
+
 #include <string_view>
 
 namespace tavrik::front::terminal {

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "toolkit/fronts/terminal/descriptor.h"
+
 #include <cstddef>
 #include <deque>
 #include <functional>
 #include <mutex>
 #include <optional>
-
-#include "toolkit/fronts/terminal/descriptor.h"
 
 namespace tavrik::front::terminal {
 

@@ -1,10 +1,10 @@
 #include "toolkit/fronts/terminal/screen_text.h"
 
+#include "toolkit/fronts/terminal/captions.h"
+
 #include <cstddef>
 #include <span>
 #include <string_view>
-
-#include "toolkit/fronts/terminal/captions.h"
 
 namespace tavrik::front::terminal {
 namespace {

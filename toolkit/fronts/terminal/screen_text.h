@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "toolkit/fronts/terminal/window_view.h"
+
+#include <string>
 
 // What is in front as the lines that are printed of it, each with its line end.
 namespace tavrik::front::terminal {

@@ -1,8 +1,8 @@
 #include "toolkit/fronts/terminal/terminal_button.h"
 
-#include <utility>
-
 #include "toolkit/fronts/terminal/captions.h"
+
+#include <utility>
 
 namespace tavrik::front::terminal {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <memory>
-
 #include "toolkit/front/front.h"
 #include "toolkit/fronts/terminal/control.h"
+
+#include <memory>
 
 namespace tavrik::front::terminal {
 

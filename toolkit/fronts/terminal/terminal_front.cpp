@@ -1,14 +1,5 @@
 #include "toolkit/fronts/terminal/terminal_front.h"
 
-#include <poll.h>
-
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <string_view>
-#include <utility>
-#include <vector>
-
 #include "toolkit/fronts/terminal/command.h"
 #include "toolkit/fronts/terminal/descriptor.h"
 #include "toolkit/fronts/terminal/file_question.h"
@@ -19,6 +10,15 @@
 #include "toolkit/fronts/terminal/screen_text.h"
 #include "toolkit/fronts/terminal/terminal_window.h"
 #include "toolkit/fronts/terminal/window_stack.h"
+
+#include <poll.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace tavrik::front::terminal {
 namespace {

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "toolkit/front/front.h"
+
 #include <unistd.h>
 
 #include <memory>
-
-#include "toolkit/front/front.h"
 
 namespace tavrik::front::terminal {
 

@@ -1,11 +1,11 @@
 #include "toolkit/fronts/terminal/terminal_window.h"
 
-#include <utility>
-
 #include "toolkit/fronts/terminal/captions.h"
 #include "toolkit/fronts/terminal/menu_entries.h"
 #include "toolkit/fronts/terminal/terminal_button.h"
 #include "toolkit/fronts/terminal/window_stack.h"
+
+#include <utility>
 
 namespace tavrik::front::terminal {
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "toolkit/front/front.h"
+#include "toolkit/fronts/terminal/control.h"
+#include "toolkit/fronts/terminal/window_view.h"
+
 #include <memory>
 #include <span>
 #include <string_view>
 #include <vector>
-
-#include "toolkit/front/front.h"
-#include "toolkit/fronts/terminal/control.h"
-#include "toolkit/fronts/terminal/window_view.h"
 
 namespace tavrik::front::terminal {
 

@@ -1,9 +1,9 @@
 #include "toolkit/fronts/terminal/window_stack.h"
 
+#include "toolkit/fronts/terminal/terminal_window.h"
+
 #include <algorithm>
 #include <utility>
-
-#include "toolkit/fronts/terminal/terminal_window.h"
 
 namespace tavrik::front::terminal {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "toolkit/front/descriptions.h"
+
 #include <string>
 #include <vector>
-
-#include "toolkit/front/descriptions.h"
 
 // A window as the terminal has it: all texts in their printed form.
 namespace tavrik::front::terminal {

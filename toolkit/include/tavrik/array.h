@@ -120,7 +120,7 @@ private:
         if constexpr (kIsReference) {
             return value.object();
         } else {
-            return value;
+            return static_cast<typename ElementOf<T>::Argument>(value);
         }
     }
 };

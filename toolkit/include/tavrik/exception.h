@@ -28,7 +28,7 @@ TAVRIK_API void RuntimeStackCheck();
 
 // The lowest address that a frame of this thread may lie at. It starts as the highest address, so that the first
 // check of a thread goes to RuntimeStackCheck, which finds the true one.
-extern TAVRIK_API thread_local std::uintptr_t runtime_stack_limit __attribute__((tls_model("initial-exec")));
+extern TAVRIK_API constinit thread_local std::uintptr_t runtime_stack_limit __attribute__((tls_model("initial-exec")));
 
 inline void check_stack() {
     if (reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)) < runtime_stack_limit) RuntimeStackCheck();
