@@ -1,0 +1,112 @@
+#include "runtime/class.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+// Mistakes in rows that the compiler can't see: the record isn't built, and the program ends.
+namespace tavrik::wrong {
+
+struct Ringing : Interface<Ringing> {};
+
+struct Instrument : Class<Instrument> {
+    static const ClassDefinition& definition();
+
+    bool Play() { return dispatch<&Instrument::Play>(this); }
+    bool Forgotten() { return dispatch<&Instrument::Forgotten>(this); }
+
+    struct Events {
+        static inline constinit Event<bool()> Played, Broken, Undeclared;
+    };
+};
+
+struct Bell : Class<Bell, Instrument> {
+    bool Ring() { return dispatch<&Bell::Ring>(this); }
+    bool Toll() { return dispatch<&Bell::Toll>(this); }
+    void Send(void* data) { dispatch<pick<void(void*)>(&Bell::Send)>(this, data); }
+    void Send(ClassRecord* data) { dispatch<pick<void(ClassRecord*)>(&Bell::Send)>(this, data); }
+    std::int32_t Size() { return 0; }
+
+    std::int32_t mSize;
+};
+
+namespace {
+
+bool yes(Object*) { return true; }
+void send(Object*, void*) {}
+void send_class(Object*, ClassRecord*) {}
+
+constexpr OperationRow kPlay[] = {operation<&Instrument::Play, yes>("Play")};
+constexpr EventRow kEvents[] = {event("Played", Instrument::Events::Played),
+                                event("Broken", Instrument::Events::Broken)};
+
+}  // namespace
+
+const ClassDefinition& Instrument::definition() {
+    static constexpr ClassDefinition kDefinition = define<Instrument>({.operations = kPlay, .events = kEvents});
+    return kDefinition;
+}
+
+namespace {
+
+constexpr auto kRing = operation<&Bell::Ring, yes>("Ring");
+
+constexpr OperationRow kRingOnce[] = {kRing};
+constexpr OperationRow kRingTwice[] = {kRing, kRing};
+constexpr OperationRow kSendTwice[] = {operation<pick<void(void*)>(&Bell::Send), send>("Send"),
+                                       operation<pick<void(ClassRecord*)>(&Bell::Send), send_class>("Send")};
+constexpr OperationRow kOverrideOfNothing[] = {overrides<Bell, &Instrument::Forgotten, yes>("Forgotten")};
+constexpr OperationRow kOverrideOfItsOwn[] = {kRing, overrides<Bell, &Instrument::Play, yes>("Play")};
+constexpr PropertyRow kSizeTwice[] = {property<&Bell::Size>("Size"), property<&Bell::Size>("Size")};
+constexpr PropertyRow kSize[] = {property<&Bell::Size>("Size")};
+constexpr FieldRow kSizeField[] = {field<&Bell::mSize>("Size")};
+constexpr HandlerRow kUnknownEvent[] = {handles<&Bell::Ring>("Undeclared", Instrument::Events::Undeclared)};
+constexpr HandlerRow kMisnamedEvent[] = {handles<&Bell::Ring>("Broken", Instrument::Events::Played)};
+constexpr HandlerRow kHandlerWithoutSlot[] = {handles<&Bell::Toll>("Played", Instrument::Events::Played)};
+constexpr InterfaceRow kInterfaceWithoutSlot[] = {implements<Ringing, &Bell::Toll>()};
+
+struct Mistake {
+    ClassDefinition definition;
+    std::string told;
+};
+
+TEST(DeclarationErrorsDeathTest, End_the_program_with_a_sentence_that_names_class_and_member) {
+    const auto parent = &Instrument::__Lookup;
+    const Mistake mistakes[] = {
+        {{.parent = parent, .operations = kRingTwice}, "declares an operation twice: Ring"},
+        {{.parent = parent, .operations = kSendTwice}, "declares an operation twice: Send"},
+        {{.parent = parent, .operations = kOverrideOfNothing}, "overrides an operation that no parent has: Forgotten"},
+        {{.operations = kOverrideOfItsOwn}, "overrides an operation of its own: Play"},
+        {{.parent = parent, .properties = kSizeTwice}, "declares an operation twice: Size.Get"},
+        {{.parent = parent, .fields = kSizeField, .properties = kSize}, "declares a property twice: Size"},
+        {{.parent = parent, .operations = kRingOnce, .handlers = kUnknownEvent},
+         "handles an event that it hasn't: Undeclared"},
+        {{.parent = parent, .operations = kRingOnce, .handlers = kMisnamedEvent},
+         "handles an event that it hasn't: Broken"},
+        {{.parent = parent, .handlers = kHandlerWithoutSlot},
+         "handles an event with an operation that it hasn't: Played"},
+        {{.parent = parent, .interfaces = kInterfaceWithoutSlot},
+         "implements an interface with an operation that it hasn't: wrong.Ringing"},
+    };
+    Instrument::__ctblinit();
+    for (const auto& [given, told] : mistakes) {
+        ClassDefinition definition = given;
+        definition.name = class_name_record<Bell>;
+        ClassRecord* record = nullptr;
+        EXPECT_DEATH(build_class(definition, record), "class wrong.Bell: " + told) << told;
+    }
+}
+
+TEST(DeclarationErrors, Are_none_in_rows_that_are_right) {
+    const ClassDefinition definition{.name = class_name_record<Bell>,
+                                     .parent = &Instrument::__Lookup,
+                                     .instance_size = sizeof(Bell),
+                                     .operations = kRingOnce};
+    ClassRecord* record = nullptr;
+    build_class(definition, record);
+    ASSERT_NE(record, nullptr);
+    EXPECT_EQ(record->vtable_size, 2);
+}
+
+}  // namespace
+}  // namespace tavrik::wrong

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "toolkit/core/program.h"
+
+#include <string>
+#include <vector>
+
+namespace tavrik::test {
+
+// For its life the program's front is one without a screen: it keeps the texts of the messages, and each is dismissed
+// at once.
+class RecordingFront {
+public:
+    RecordingFront() { core::use_front(std::make_unique<Front>(*this)); }
+    ~RecordingFront() { core::use_front(nullptr); }
+    RecordingFront(const RecordingFront&) = delete;
+    RecordingFront& operator=(const RecordingFront&) = delete;
+
+    std::vector<std::string> messages;
+    int quits = 0;
+
+private:
+    class Front final : public front::Front {
+    public:
+        explicit Front(RecordingFront& record) : record_(record) {}
+
+        void run() override {}
+        void quit() override { ++record_.quits; }
+        void pump(bool) override {}
+        void post(std::function<void()> call) override { call(); }
+        std::unique_ptr<front::WindowFace> make_window(front::WindowListener&) override { return nullptr; }
+        std::size_t show_message(const front::MessageDescription& message, front::WindowFace*) override {
+            record_.messages.push_back(message.text);
+            return message.default_button;
+        }
+        std::optional<std::string> choose_file(const front::FileChoice&, front::WindowFace*) override { return {}; }
+
+    private:
+        RecordingFront& record_;
+    };
+};
+
+}  // namespace tavrik::test
