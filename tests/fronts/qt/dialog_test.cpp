@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+
 #include <fstream>
 
 namespace tavrik::front::qt {

@@ -1,7 +1,7 @@
 #include "toolkit/fronts/qt/display_probe.h"
 
-#include <gtest/gtest.h>
 #include <QByteArray>
+#include <gtest/gtest.h>
 
 #include <map>
 

@@ -3,11 +3,11 @@
 #include "toolkit/front/front.h"
 #include "toolkit/fronts/qt/window_face.h"
 
-#include <gtest/gtest.h>
 #include <QApplication>
 #include <QDialog>
 #include <QSignalSpy>
 #include <QTest>
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>

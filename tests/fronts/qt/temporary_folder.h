@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTemporaryDir>
+
 #include <filesystem>
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "toolkit/fronts/terminal/captions.h"
 
-#include <gtest/gtest.h>
-
 #include "toolkit/fronts/terminal/letter_case.h"
+
+#include <gtest/gtest.h>
 
 namespace tavrik::front::terminal {
 namespace {

@@ -1,14 +1,15 @@
 #include "toolkit/fronts/terminal/chosen_path.h"
 
+#include "toolkit/fronts/terminal/file_question.h"
+#include "toolkit/fronts/terminal/screen_text.h"
+
 #include <gtest/gtest.h>
+
 #include <sys/stat.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-
-#include "toolkit/fronts/terminal/file_question.h"
-#include "toolkit/fronts/terminal/screen_text.h"
 
 namespace tavrik::front::terminal {
 namespace {

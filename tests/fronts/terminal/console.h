@@ -1,7 +1,11 @@
 #pragma once
 
-#include <fcntl.h>
+#include "toolkit/fronts/terminal/descriptor.h"
+#include "toolkit/fronts/terminal/terminal_front.h"
+
 #include <gtest/gtest.h>
+
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <functional>
@@ -11,9 +15,6 @@
 #include <string_view>
 #include <utility>
 #include <vector>
-
-#include "toolkit/fronts/terminal/descriptor.h"
-#include "toolkit/fronts/terminal/terminal_front.h"
 
 // A program with fake listeners on a front whose input and output are pipes.
 namespace tavrik::front::terminal {

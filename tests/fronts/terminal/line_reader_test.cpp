@@ -1,8 +1,8 @@
 #include "toolkit/fronts/terminal/line_reader.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/fronts/terminal/console.h"
+
+#include <gtest/gtest.h>
 
 namespace tavrik::front::terminal {
 namespace {

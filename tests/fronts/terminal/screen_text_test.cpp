@@ -1,8 +1,8 @@
 #include "toolkit/fronts/terminal/screen_text.h"
 
-#include <gtest/gtest.h>
-
 #include "toolkit/fronts/terminal/menu_entries.h"
+
+#include <gtest/gtest.h>
 
 namespace tavrik::front::terminal {
 namespace {

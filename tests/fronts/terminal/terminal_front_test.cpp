@@ -1,11 +1,11 @@
 #include "toolkit/fronts/terminal/terminal_front.h"
 
+#include "tests/fronts/terminal/console.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <thread>
-
-#include "tests/fronts/terminal/console.h"
 
 namespace tavrik::front::terminal {
 namespace {
