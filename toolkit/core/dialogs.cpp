@@ -10,7 +10,9 @@
 
 namespace tavrik {
 
-void RuntimeMsgBox(const String& text) { core::show_message({.text = std::string(text.view()), .icon = front::MessageIcon::kNote}); }
+void RuntimeMsgBox(const String& text) {
+    core::show_message({.text = std::string(text.view()), .icon = front::MessageIcon::kNote});
+}
 
 Ref<Object> RuntimeGetOpenFolderItem(const String& filter) {
     core::flush_all_streams();
