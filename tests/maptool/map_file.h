@@ -1,36 +1,43 @@
 #pragma once
 
-#include <cstdint>
-#include <filesystem>
+#include "tests/support/temporary_folder.h"
+
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace tavrik {
 
-// A map of random bytes in a folder of its own, for the length of a test.
-class MapFile {
-public:
-    static constexpr std::size_t kFieldsEnd = 2980;
-    static constexpr std::int32_t kIntact = 4666;
+using namespace std::string_view_literals;
 
-    explicit MapFile(std::int32_t state, std::size_t size = kFieldsEnd + 1000);
-    ~MapFile();
-    MapFile(const MapFile&) = delete;
-    MapFile& operator=(const MapFile&) = delete;
+constexpr std::string_view kIntactState = "\x3A\x12\0\0"sv;
+constexpr std::string_view kNulledState = "\0\0\0\0"sv;
 
-    const std::string& path() const { return path_; }
-    // As it was made.
-    const std::string& original() const { return original_; }
-    // As it is on the disk.
-    std::string bytes() const;
-
-private:
-    std::filesystem::path folder_;
-    std::string path_;
-    std::string original_;
-};
+inline std::string with_field(std::string bytes, std::size_t offset, std::string_view field) {
+    bytes.resize(std::max(bytes.size(), offset + field.size()));
+    return bytes.replace(offset, field.size(), field);
+}
 
 // The bytes with the tool's three fields set to what the two buttons write.
-std::string nulled(std::string bytes);
-std::string restored(std::string bytes);
+inline std::string nulled(std::string bytes) {
+    return with_field(with_field(with_field(std::move(bytes), 2320, kNulledState), 2952, kNulledState), 2976,
+                      "\xFF\xFF\xFF\xFF"sv);
+}
+inline std::string restored(std::string bytes) {
+    return with_field(with_field(with_field(std::move(bytes), 2320, "\x7F\x15\0\0"sv), 2952, kIntactState), 2976,
+                      "\xA5\x33\0\0"sv);
+}
+
+// A map in a folder of its own, for the length of a test.
+struct MapFile {
+    explicit MapFile(std::string bytes) : original(std::move(bytes)) {}
+    explicit MapFile(std::string_view state) : MapFile(with_field(std::string(4000, 'x'), 2952, state)) {}
+
+    std::string bytes() const { return test::bytes_of(path); }
+
+    const test::TemporaryFolder folder;
+    const std::string original;
+    const std::string path = folder.new_file("valley.map", original);
+};
 
 }  // namespace tavrik

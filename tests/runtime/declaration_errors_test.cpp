@@ -23,8 +23,6 @@ struct Instrument : Class<Instrument> {
 struct Bell : Class<Bell, Instrument> {
     bool Ring() { return dispatch<&Bell::Ring>(this); }
     bool Toll() { return dispatch<&Bell::Toll>(this); }
-    void Send(void* data) { dispatch<pick<void(void*)>(&Bell::Send)>(this, data); }
-    void Send(ClassRecord* data) { dispatch<pick<void(ClassRecord*)>(&Bell::Send)>(this, data); }
     std::int32_t Size() { return 0; }
 
     std::int32_t mSize;
@@ -33,8 +31,6 @@ struct Bell : Class<Bell, Instrument> {
 namespace {
 
 bool yes(Object*) { return true; }
-void send(Object*, void*) {}
-void send_class(Object*, ClassRecord*) {}
 
 constexpr OperationRow kPlay[] = {operation<&Instrument::Play, yes>("Play")};
 constexpr EventRow kEvents[] = {event("Played", Instrument::Events::Played),
@@ -53,8 +49,6 @@ constexpr auto kRing = operation<&Bell::Ring, yes>("Ring");
 
 constexpr OperationRow kRingOnce[] = {kRing};
 constexpr OperationRow kRingTwice[] = {kRing, kRing};
-constexpr OperationRow kSendTwice[] = {operation<pick<void(void*)>(&Bell::Send), send>("Send"),
-                                       operation<pick<void(ClassRecord*)>(&Bell::Send), send_class>("Send")};
 constexpr OperationRow kOverrideOfNothing[] = {overrides<Bell, &Instrument::Forgotten, yes>("Forgotten")};
 constexpr OperationRow kOverrideOfItsOwn[] = {kRing, overrides<Bell, &Instrument::Play, yes>("Play")};
 constexpr PropertyRow kSizeTwice[] = {property<&Bell::Size>("Size"), property<&Bell::Size>("Size")};
@@ -74,7 +68,6 @@ TEST(DeclarationErrorsDeathTest, End_the_program_with_a_sentence_that_names_clas
     const auto parent = &Instrument::__Lookup;
     const Mistake mistakes[] = {
         {{.parent = parent, .operations = kRingTwice}, "declares an operation twice: Ring"},
-        {{.parent = parent, .operations = kSendTwice}, "declares an operation twice: Send"},
         {{.parent = parent, .operations = kOverrideOfNothing}, "overrides an operation that no parent has: Forgotten"},
         {{.operations = kOverrideOfItsOwn}, "overrides an operation of its own: Play"},
         {{.parent = parent, .properties = kSizeTwice}, "declares an operation twice: Size.Get"},
@@ -95,17 +88,6 @@ TEST(DeclarationErrorsDeathTest, End_the_program_with_a_sentence_that_names_clas
         ClassRecord* record = nullptr;
         EXPECT_DEATH(build_class(definition, record), "class wrong.Bell: " + told) << told;
     }
-}
-
-TEST(DeclarationErrors, Are_none_in_rows_that_are_right) {
-    const ClassDefinition definition{.name = class_name_record<Bell>,
-                                     .parent = &Instrument::__Lookup,
-                                     .instance_size = sizeof(Bell),
-                                     .operations = kRingOnce};
-    ClassRecord* record = nullptr;
-    build_class(definition, record);
-    ASSERT_NE(record, nullptr);
-    EXPECT_EQ(record->vtable_size, 2);
 }
 
 }  // namespace

@@ -9,9 +9,12 @@ const QRect kUpper(20, 20, 100, 20);
 const QRect kMiddle(20, 52, 100, 20);
 const QRect kLower(20, 84, 100, 20);
 
-TEST(QtFitting, A_taller_control_keeps_its_middle) {
+TEST(QtFitting, A_taller_control_keeps_its_middle_except_at_an_edge) {
     EXPECT_EQ(fit_height(kMiddle, 26, {kUpper, kLower}, 119), QRect(20, 49, 100, 26));
     EXPECT_EQ(fit_height(kMiddle, 18, {kUpper, kLower}, 119), kMiddle);
+    EXPECT_EQ(fit_height(kMiddle, 60, {{120, 20, 50, 20}}, 119).height(), 60);
+    EXPECT_EQ(fit_height({20, 0, 100, 20}, 30, {}, 119), QRect(20, 0, 100, 30));
+    EXPECT_EQ(fit_height({20, 99, 100, 20}, 30, {}, 119), QRect(20, 89, 100, 30));
 }
 
 TEST(QtFitting, Two_neighbours_that_both_grow_stay_apart) {
@@ -21,20 +24,8 @@ TEST(QtFitting, Two_neighbours_that_both_grow_stay_apart) {
     EXPECT_EQ(middle.height(), 30);
 }
 
-TEST(QtFitting, A_control_at_an_edge_grows_the_other_way) {
-    EXPECT_EQ(fit_height({20, 0, 100, 20}, 30, {}, 119), QRect(20, 0, 100, 30));
-    EXPECT_EQ(fit_height({20, 99, 100, 20}, 30, {}, 119), QRect(20, 89, 100, 30));
-}
-
-TEST(QtFitting, A_control_in_other_columns_is_no_neighbour) {
-    EXPECT_EQ(fit_height(kMiddle, 60, {{120, 20, 50, 20}}, 119).height(), 60);
-}
-
-TEST(QtFitting, A_wider_control_grows_to_the_right) {
+TEST(QtFitting, A_wider_control_grows_to_the_right_where_all_of_the_width_is_there) {
     EXPECT_EQ(fit_width(kUpper, 150, {kMiddle, {180, 20, 50, 20}}, 290), QRect(20, 20, 150, 20));
-}
-
-TEST(QtFitting, Where_the_width_is_not_there_none_of_it_is_taken) {
     EXPECT_EQ(fit_width(kUpper, 150, {{160, 30, 50, 20}}, 290), kUpper);
     EXPECT_EQ(fit_width(kUpper, 150, {}, 169), kUpper);
 }

@@ -51,7 +51,7 @@ protected:
     }
     Log reports() const {
         Log reports;
-        for (const std::string& line : window_listener.log) {
+        for (const std::string& line : listener.log) {
             if (line == "opening" || line.starts_with("chosen")) reports.push_back(line);
         }
         return reports;
@@ -116,11 +116,10 @@ TEST_F(QtMenus, Entries_that_stay_the_same_in_kind_keep_their_actions) {
 }
 
 TEST_F(QtMenus, Menus_may_be_rebuilt_while_one_opens) {
-    window_listener.on_opening = [this] {
+    listener.once["opening"] = [this] {
         menus[1].children = {entry(22, "&Paste"), separator(23), entry(21, "Cu&t"), entry(24, "&Clear")};
         menus.insert(menus.begin(), entry(3, "&New"));
         apply();
-        window_listener.on_opening = nullptr;
     };
     show_menus();
     open(1);
@@ -131,7 +130,7 @@ TEST_F(QtMenus, Menus_may_be_rebuilt_while_one_opens) {
 }
 
 TEST_F(QtMenus, The_menu_that_opens_may_vanish) {
-    window_listener.on_opening = [this] {
+    listener.once["opening"] = [this] {
         menus.pop_back();
         apply();
     };
@@ -142,7 +141,7 @@ TEST_F(QtMenus, The_menu_that_opens_may_vanish) {
 }
 
 TEST_F(QtMenus, Menus_may_be_rebuilt_by_the_choice_itself) {
-    window_listener.on_chosen = [this] {
+    listener.once["chosen 20"] = [this] {
         menus[1].children.erase(menus[1].children.begin());
         apply();
     };
@@ -155,7 +154,7 @@ TEST_F(QtMenus, Menus_may_be_rebuilt_by_the_choice_itself) {
 }
 
 TEST_F(QtMenus, The_window_may_be_destroyed_by_a_choice) {
-    window_listener.on_chosen = [this] { face.reset(); };
+    listener.once["chosen 12"] = [this] { face.reset(); };
     show_menus();
     open(0);
     click(2);

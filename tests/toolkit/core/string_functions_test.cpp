@@ -2,173 +2,87 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
-#include <random>
 #include <string>
 #include <vector>
 
 namespace tavrik::test {
 namespace {
 
-// The reference: a text is a row of characters, and one begins at the first byte and at each that isn't 10xxxxxx.
-std::vector<std::string> characters(std::string_view text) {
-    std::vector<std::string> all;
-    for (const char byte : text) {
-        const bool continues = (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-        if (all.empty() || !continues) all.emplace_back();
-        all.back() += byte;
-    }
-    return all;
-}
-
-std::string middle(std::string_view text, std::int32_t start, std::int32_t length) {
-    std::string part;
-    std::int32_t position = 1;
-    start = std::max(start, 1);
-    for (const std::string& character : characters(text)) {
-        if (position >= start && position - start < length) part += character;
-        ++position;
-    }
-    return part;
-}
-
-std::int32_t position_of(std::string_view text, std::int32_t start, std::string_view sought) {
-    const auto all = characters(text);
-    start = std::max(start, 1);
-    if (start > static_cast<std::int32_t>(all.size()) + 1) return 0;
-    std::size_t from = 0;
-    for (std::int32_t i = 1; i < start; ++i) from += all[static_cast<std::size_t>(i) - 1].size();
-    const std::size_t found = text.find(sought, from);
-    if (found == std::string_view::npos) return 0;
-    return start + static_cast<std::int32_t>(characters(text.substr(from, found - from)).size());
-}
-
-std::vector<std::string> fields(std::string text, const std::string& separator) {
-    std::vector<std::string> all;
-    for (std::size_t end = text.find(separator); end != std::string::npos; end = text.find(separator)) {
-        all.push_back(text.substr(0, end));
-        text.erase(0, end + separator.size());
-    }
-    all.push_back(text);
-    return all;
-}
-
-class Texts {
-public:
-    std::string next(std::size_t most_parts) {
-        static const std::vector<std::string> parts{
-            "a",    "b",    "ab",   " ",  "\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x98\x80",
-            "\x80", "\xC3", "\xFF", "\n", ";",        {'\0'}};
-        std::string text;
-        for (std::size_t count = number(most_parts); count > 0; --count) text += parts[number(parts.size() - 1)];
-        return text;
-    }
-    std::size_t number(std::size_t most) { return std::uniform_int_distribution<std::size_t>(0, most)(random_); }
-    std::int32_t around(std::size_t length) { return static_cast<std::int32_t>(number(length + 5)) - 2; }
-
-private:
-    std::mt19937 random_{20};
-};
-
 String string(const std::string& text) { return String(std::string_view(text)); }
 
-TEST(CharacterFunctions, Agree_with_a_plain_reference_on_any_bytes) {
-    Texts texts;
-    for (int round = 0; round < 20'000; ++round) {
-        const std::string text = texts.next(40);
-        const std::size_t length = characters(text).size();
-        const std::int32_t start = texts.around(length);
-        const std::int32_t count = texts.around(length);
-        const std::string sought = texts.next(2);
-
-        ASSERT_EQ(StringDBCSLen(string(text)), static_cast<std::int32_t>(length)) << text;
-        ASSERT_EQ(StringDBCSLeft(string(text), count).view(), middle(text, 1, count)) << text << " " << count;
-        ASSERT_EQ(StringDBCSMid2(string(text), start).view(), middle(text, start, INT32_MAX)) << text << " " << start;
-        ASSERT_EQ(StringDBCSMid3(string(text), start, count).view(), middle(text, start, count)) << text;
-        ASSERT_EQ(StringInStr(start, string(text), string(sought)), position_of(text, start, sought))
-            << text << " from " << start << " for " << sought;
-    }
-}
-
-TEST(FieldFunctions, Agree_with_a_plain_reference_on_any_bytes) {
-    Texts texts;
-    for (int round = 0; round < 20'000; ++round) {
-        const std::string text = texts.next(20);
-        const std::string separator = texts.next(1) + "b";
-        const auto wanted = fields(text, separator);
-        ASSERT_EQ(StringCountFields(string(text), string(separator)), static_cast<std::int32_t>(wanted.size()));
-        for (std::size_t i = 0; i < wanted.size(); ++i) {
-            ASSERT_EQ(StringNthField(string(text), string(separator), static_cast<std::int32_t>(i) + 1), wanted[i]);
+// A character begins at the first byte and at each that isn't 10xxxxxx.
+TEST(CharacterFunctions, Count_characters_of_any_bytes) {
+    const std::vector<std::string> characters{"\x80",         "a",    "\xC3\xA4", {'\0'}, "\xF0\x9F\x98\x80", "\xD0",
+                                              "\xE2\x82\xAC", "\xFF", "b"};
+    const auto length = static_cast<std::int32_t>(characters.size());
+    const auto part = [&](std::int32_t start, std::int32_t count) {
+        std::string joined;
+        for (std::int32_t i = std::max(start, 1); i <= length && i - std::max(start, 1) < count; ++i) {
+            joined += characters[static_cast<std::size_t>(i) - 1];
+        }
+        return joined;
+    };
+    const String text = string(part(1, length));
+    EXPECT_EQ(StringDBCSLen(text), length);
+    for (std::int32_t start = -2; start < length + 3; ++start) {
+        EXPECT_EQ(StringDBCSLeft(text, start), part(1, start)) << start;
+        EXPECT_EQ(StringDBCSMid2(text, start), part(start, length)) << start;
+        for (std::int32_t count = -2; count < length + 3; ++count) {
+            EXPECT_EQ(StringDBCSMid3(text, start, count), part(start, count)) << start << " " << count;
+        }
+        for (std::int32_t sought = 1; sought <= length; ++sought) {
+            EXPECT_EQ(StringInStr(start, text, string(part(sought, 2))), start <= sought ? sought : 0) << start;
         }
     }
+    EXPECT_EQ(StringInStr(0, text, "c"_s), 0);
 }
 
-TEST(Mid, Is_empty_behind_the_end) {
-    for (const std::int32_t start : {4, 5, INT32_MAX}) {
-        EXPECT_EQ(StringDBCSMid3("%si"_s, start, 1), "") << start;
-        EXPECT_EQ(StringDBCSMid2("%si"_s, start), "") << start;
+struct Split {
+    String text;
+    String separator;
+    std::vector<std::string> fields;
+};
+
+TEST(FieldFunctions, Split_a_text_at_each_separator) {
+    const Split splits[] = {{"a;b;;c"_s, ";"_s, {"a", "b", "", "c"}},
+                            {";"_s, ";"_s, {"", ""}},
+                            {nullptr, ";"_s, {""}},
+                            {"aXYbXXY"_s, "XY"_s, {"a", "bX", ""}},
+                            {"map"_s, nullptr, {"map"}},
+                            {"\xC3\xA4;x"_s, ";"_s, {"\xC3\xA4", "x"}}};
+    for (const auto& [text, separator, fields] : splits) {
+        EXPECT_EQ(StringCountFields(text, separator), static_cast<std::int32_t>(fields.size())) << text.view();
+        std::int32_t number = 0;
+        for (const std::string& field : fields) EXPECT_EQ(StringNthField(text, separator, ++number), field);
     }
-    EXPECT_EQ(StringDBCSMid3(nullptr, 1, 1), "");
 }
 
-TEST(Mid, Takes_any_number) {
+TEST(CharacterFunctions, Take_any_number) {
     EXPECT_EQ(StringDBCSMid3("map"_s, INT32_MIN, INT32_MAX), "map");
     EXPECT_EQ(StringDBCSMid3("map"_s, 2, INT32_MIN), "");
     EXPECT_EQ(StringDBCSLeft("map"_s, INT32_MIN), "");
-    EXPECT_EQ(StringDBCSLeft("map"_s, INT32_MAX), "map");
-}
-
-TEST(InStr, Searches_from_the_beginning_for_a_start_of_0) {
-    for (const char digit : std::string_view("0123456789")) {
-        EXPECT_EQ(StringInStr(0, "0123456789"_s, String(std::string_view(&digit, 1))), digit - '0' + 1);
-    }
-    EXPECT_EQ(StringInStr(0, "0123456789"_s, "x"_s), 0);
-}
-
-TEST(CountFields, Is_1_where_there_is_no_separator) {
-    EXPECT_EQ(StringCountFields("Window1.Window1"_s, "."_s), 2);
-    EXPECT_EQ(StringCountFields("Window1"_s, "."_s), 1);
-    EXPECT_EQ(StringCountFields("Window1"_s, nullptr), 1);
-    EXPECT_EQ(StringCountFields(nullptr, "."_s), 1);
-    EXPECT_EQ(StringCountFields(".."_s, "."_s), 3);
+    EXPECT_EQ(StringDBCSMid2("map"_s, INT32_MAX), "");
+    EXPECT_EQ(StringDBCSMid3(nullptr, 1, 1), "");
 }
 
 TEST(Val, Reads_the_number_at_the_start) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
-    const std::pair<std::string_view, double> cases[] = {
-        {"", 0},
-        {"42", 42},
-        {" \t\r\n42", 42},
-        {"42 7", 42},
-        {"-3.5px", -3.5},
-        {"+7", 7},
-        {".5", 0.5},
-        {"-.5", -0.5},
-        {"5.", 5},
-        {"1e3", 1000},
-        {"1E-2", 0.01},
-        {"1e", 1},
-        {"1e+", 1},
-        {"1,5", 1},
-        {"0x10", 0},
-        {"-", 0},
-        {".", 0},
-        {"+", 0},
-        {"--5", 0},
-        {"+-5", 0},
-        {"-+5", 0},
-        {"++5", 0},
-        {"inf", 0},
-        {"nan", 0},
-        {"map1", 0},
-        {"1e999", kInfinity},
-        {"-1e999", -kInfinity},
-        {"1e-999", 0},
-        {"9007199254740993", 9007199254740992.0},
-        {std::string_view("4\0002", 3), 4},
+    const std::pair<double, std::vector<std::string_view>> cases[] = {
+        {0, {"", "0x10", "-", ".", "--5", "-+5", "inf", "nan", "map1", "1e-999"}},
+        {1, {"1,5", "1e"}},
+        {42, {" \t\r\n42", "42 7", {"42\0002", 4}}},
+        {-3.5, {"-3.5px"}},
+        {7, {"+7", "7."}},
+        {0.5, {".5"}},
+        {1000, {"1e3"}},
+        {0.01, {"1E-2"}},
+        {kInfinity, {"1e999"}},
+        {9007199254740992.0, {"9007199254740993"}},
     };
-    for (const auto& [text, wanted] : cases) EXPECT_EQ(StringVal(String(text)), wanted) << '"' << text << '"';
+    for (const auto& [wanted, texts] : cases) {
+        for (const auto text : texts) EXPECT_EQ(StringVal(String(text)), wanted) << '"' << text << '"';
+    }
 }
 
 }  // namespace
