@@ -10,11 +10,7 @@ namespace {
 void enable_menu_items(Application* self, Arg<ArrayOf<MenuItem>> items) {
     const Frame frame(self, items);
     Application::Events::EnableMenuItems.raise(self);
-    for (std::int32_t i = 0; i <= items->upper_bound(); ++i) {
-        const Ref<Variant> name = StringToVariant(items->at(i)->Name());
-        if (self->_mMenuHandlers->HasKey(name)) items->at(i)->Enable();
-        RuntimeBackgroundTask();
-    }
+    enable_handled(items, self->_mMenuHandlers);
 }
 
 void call_open(Application* self) {
@@ -27,14 +23,12 @@ bool handle_menu_command(Application* self, Arg<MenuItem> item) {
     return false;
 }
 
-void name_dependencies(Object*) {}
-
 constexpr OperationRow kOperations[] = {
     operation<&Application::_AddMenuHandler, ApplicationAddMenuHandler>("_AddMenuHandler"),
     operation<&Application::_EnableMenuItems, enable_menu_items>("_EnableMenuItems"),
     operation<&Application::_CallOpen, call_open>("_CallOpen"),
     operation<&Application::_HandleMenuCommand, handle_menu_command>("_HandleMenuCommand"),
-    operation<&Application::__DependencyList, name_dependencies>("__DependencyList").not_public(),
+    operation<&Application::__DependencyList, no_effect>("__DependencyList").not_public(),
 };
 
 constexpr FieldRow kFields[] = {

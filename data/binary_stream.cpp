@@ -5,8 +5,6 @@ namespace {
 
 bool last_error_is_odd(Object* stream) { return (BinaryStreamLastErrorGetter(stream, 0) & 1) != 0; }
 
-void name_dependencies(Object*) {}
-
 constexpr OperationRow kOperations[] = {
     operation<&BinaryStream::ReadByte, BinaryStreamReadByte>("ReadByte"),
     operation<&BinaryStream::ReadShort, BinaryStreamReadShort>("ReadShort"),
@@ -45,7 +43,7 @@ constexpr OperationRow kOperations[] = {
     operation<&BinaryStream::WriteUInt64, BinaryStreamWriteUInt64>("WriteUInt64"),
     operation<&BinaryStream::ReadCurrency, BinaryStreamReadCurrency>("ReadCurrency"),
     operation<&BinaryStream::WriteCurrency, BinaryStreamWriteCurrency>("WriteCurrency"),
-    operation<&BinaryStream::__DependencyList, name_dependencies>("__DependencyList").not_public(),
+    operation<&BinaryStream::__DependencyList, no_effect>("__DependencyList").not_public(),
 };
 
 constexpr PropertyRow kProperties[] = {

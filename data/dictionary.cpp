@@ -3,8 +3,6 @@
 namespace tavrik {
 namespace {
 
-void name_dependencies(Object*) {}
-
 constexpr OperationRow kOperations[] = {
     operation<&Dictionary::Clear, dictionaryRemoveAll>("Clear"),
     operation<&Dictionary::HasKey, dictionaryHasKey>("HasKey"),
@@ -15,7 +13,7 @@ constexpr OperationRow kOperations[] = {
     operation<&Dictionary::Values, dictionaryValues>("Values"),
     operation<&Dictionary::Keys, dictionaryKeys>("Keys"),
     operation<&Dictionary::set_Value, dictionaryValueSetter>("=Value"),
-    operation<&Dictionary::__DependencyList, name_dependencies>("__DependencyList").not_public(),
+    operation<&Dictionary::__DependencyList, no_effect>("__DependencyList").not_public(),
 };
 
 constexpr PropertyRow kProperties[] = {

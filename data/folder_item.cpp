@@ -3,11 +3,9 @@
 namespace tavrik {
 namespace {
 
-void name_dependencies(Object*) {}
-
 constexpr OperationRow kOperations[] = {
     operation<&FolderItem::OpenAsBinaryFile, FolderItemOpenBinaryFile>("OpenAsBinaryFile"),
-    operation<&FolderItem::__DependencyList, name_dependencies>("__DependencyList").not_public(),
+    operation<&FolderItem::__DependencyList, no_effect>("__DependencyList").not_public(),
 };
 
 constexpr PropertyRow kProperties[] = {

@@ -117,6 +117,9 @@ using ClassOf = typename MemberTraits<decltype(Member)>::Class;
 
 }  // namespace detail
 
+// What stands in the slot of an operation without effect.
+inline void no_effect(Object*) {}
+
 // A virtual operation that the class adds: its public member, and what stands in its slot.
 template <auto Member, auto Body>
 constexpr OperationRow operation(const char* name) {

@@ -1,9 +1,19 @@
 #include "ui/menu_item.h"
 
+#include "data/dictionary.h"
 #include "runtime/frame.h"
 #include "ui/menu_bar.h"
 
 namespace tavrik {
+
+void enable_handled(Arg<ArrayOf<MenuItem>> items, const Field<Dictionary>& handlers) {
+    for (std::int32_t i = 0; i <= items->upper_bound(); ++i) {
+        const Ref<Variant> name = StringToVariant(items->at(i)->Name());
+        if (handlers->HasKey(name)) items->at(i)->Enable();
+        RuntimeBackgroundTask();
+    }
+}
+
 namespace {
 
 void disable_entirely(MenuItem* self) {

@@ -6,6 +6,8 @@
 
 namespace tavrik {
 
+struct Dictionary;
+
 // An entry of a menu, or a menu with entries.
 struct MenuItem : Class<MenuItem> {
     static const ClassDefinition& definition();
@@ -73,5 +75,8 @@ struct MenuItem : Class<MenuItem> {
     std::int32_t _mIndex;
     Field<ArrayOf<MenuItem>> _mChildren;
 };
+
+// Enables each of the items that has a handler under its name.
+void enable_handled(Arg<ArrayOf<MenuItem>> items, const Field<Dictionary>& handlers);
 
 }  // namespace tavrik

@@ -12,8 +12,6 @@ void _Pane::set_Window(Arg<tavrik::Window> window) {
 
 namespace {
 
-void nothing(Object*) {}
-
 void destroy(_Pane* self) {
     const Frame frame(self);
     self->set_Control(nullptr);
@@ -38,13 +36,13 @@ void construct(_Pane* self, Arg<Control> control) {
 void run_destructor(Object* self) { static_cast<_Pane*>(self)->Destructor(); }
 
 constexpr OperationRow kOperations[] = {
-    operation<&_Pane::CreateImp, nothing>("CreateImp"),
+    operation<&_Pane::CreateImp, no_effect>("CreateImp"),
     operation<&_Pane::Destructor, destroy>("Destructor"),
     operation<&_Pane::Close, close>("Close"),
     operation<&_Pane::IsRootControl, is_root_control>("IsRootControl"),
     operation<&_Pane::Constructor, construct>("Constructor"),
-    operation<&_Pane::AddToParentPane, nothing>("AddToParentPane"),
-    operation<&_Pane::Open, nothing>("Open"),
+    operation<&_Pane::AddToParentPane, no_effect>("AddToParentPane"),
+    operation<&_Pane::Open, no_effect>("Open"),
 };
 
 constexpr FieldRow kFields[] = {

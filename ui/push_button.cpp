@@ -33,8 +33,6 @@ void lost_focus(PushButton* self) {
     PushButton::Events::LostFocus.raise(self);
 }
 
-void name_dependencies(Object*) {}
-
 constexpr OperationRow kOperations[] = {
     operation<&PushButton::Event_CreatePane, PushButtonCreatePane>("Event_CreatePane"),
     operation<&PushButton::Push, pushButtonPush>("Push"),
@@ -44,7 +42,7 @@ constexpr OperationRow kOperations[] = {
     operation<&PushButton::_CallAction, call_action>("_CallAction"),
     operation<&PushButton::_GotFocus, got_focus>("_GotFocus"),
     operation<&PushButton::_LostFocus, lost_focus>("_LostFocus"),
-    overrides<PushButton, &RectControl::__DependencyList, name_dependencies>("__DependencyList").not_public(),
+    overrides<PushButton, &RectControl::__DependencyList, no_effect>("__DependencyList").not_public(),
 };
 
 constexpr PropertyRow kProperties[] = {

@@ -37,8 +37,6 @@ bool key_down(RectControl* self, const String& key) {
     return RectControl::Events::KeyDown.raise(self, key);
 }
 
-void name_dependencies(Object*) {}
-
 constexpr OperationRow kOperations[] = {
     operation<&RectControl::SetFocus, RuntimeSetFocus>("SetFocus"),
     operation<&RectControl::Constructor, RectControlDefaultConstructor>("Constructor"),
@@ -47,7 +45,7 @@ constexpr OperationRow kOperations[] = {
     operation<&RectControl::_MouseMove, mouse_move>("_MouseMove"),
     operation<&RectControl::_MouseWheel, mouse_wheel>("_MouseWheel"),
     operation<&RectControl::_KeyDown, key_down>("_KeyDown"),
-    operation<&RectControl::__DependencyList, name_dependencies>("__DependencyList").not_public(),
+    operation<&RectControl::__DependencyList, no_effect>("__DependencyList").not_public(),
     operation<&RectControl::RectControl_, RectControlDefaultConstructor>("RectControl"),
 };
 

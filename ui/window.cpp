@@ -5,6 +5,7 @@
 #include "runtime/tavrik_module.h"
 #include "ui/control.h"
 #include "ui/menu_bar.h"
+#include "ui/menu_item.h"
 #include "ui/window_support.h"
 
 namespace tavrik {
@@ -58,11 +59,7 @@ bool unified_close(Window* self, bool app_is_quitting) {
 void enable_menu_items(Window* self, Arg<ArrayOf<MenuItem>> items) {
     const Frame frame(self, items);
     Window::Events::EnableMenuItems.raise(self);
-    for (std::int32_t i = 0; i <= items->upper_bound(); ++i) {
-        const Ref<Variant> name = StringToVariant(items->at(i)->Name());
-        if (self->_mMenuHandlers->HasKey(name)) items->at(i)->Enable();
-        RuntimeBackgroundTask();
-    }
+    enable_handled(items, self->_mMenuHandlers);
 }
 
 void call_activated(Window* self) {
@@ -92,8 +89,6 @@ bool handle_menu_command(Window* self, Arg<MenuItem> item) {
     return false;
 }
 
-void name_dependencies(Object*) {}
-
 constexpr OperationRow kOperations[] = {
     operation<&Window::Show, RuntimeShowWindow>("Show"),
     operation<&Window::Hide, RuntimeHideWindow>("Hide"),
@@ -110,7 +105,7 @@ constexpr OperationRow kOperations[] = {
     operation<&Window::_HandleMenuCommand, handle_menu_command>("_HandleMenuCommand"),
     operation<&Window::_UnifiedClose, unified_close>("_UnifiedClose"),
     operation<&Window::_CallResized, call_resized>("_CallResized"),
-    operation<&Window::__DependencyList, name_dependencies>("__DependencyList").not_public(),
+    operation<&Window::__DependencyList, no_effect>("__DependencyList").not_public(),
     method<&Window::_GetControl, RuntimeWindowControlByName>("_GetControl"),
     shared<RuntimeSwapSelfAndMe>("SwapSelfAndMe").not_public(),
 };

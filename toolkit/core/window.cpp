@@ -79,7 +79,9 @@ bool agrees_to_close(Object* window, AppIsQuitting quitting) {
     if (quitting != AppIsQuitting::kNoMatterWhat) return unified_close(window, quitting == AppIsQuitting::kYes);
     try {
         unified_close(window, true);
-    } catch (const RaisedException&) {
+    } catch (const RaisedException& raised) {
+        // The controls go before the lists are looked for: while they are there, it was the window's own code.
+        if (controls_field.get(window)) RuntimeUnhandledException(raised.exception.object());
     }
     return true;
 }

@@ -1,5 +1,5 @@
 #include "tests/fronts/qt/front_fixture.h"
-#include "tests/fronts/qt/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <QAbstractItemView>
 #include <QFileDialog>
@@ -144,7 +144,7 @@ protected:
     FileChoice choice;
 
 private:
-    TemporaryFolder folder_;
+    test::TemporaryFolder folder_;
 };
 
 TEST_F(QtFileChoice, A_typed_name_is_the_answer) {
