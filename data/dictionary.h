@@ -1,9 +1,9 @@
 #pragma once
 
+#include "data/pair.h"
 #include "runtime/class.h"
 
 #include <tavrik/dictionary.h>
-#include <tavrik/variant.h>
 
 namespace tavrik {
 
@@ -23,9 +23,13 @@ struct Dictionary : Class<Dictionary> {
     Ref<ArrayOf<Variant>> Values() { return dispatch<&Dictionary::Values>(this); }
     Ref<ArrayOf<Variant>> Keys() { return dispatch<&Dictionary::Keys>(this); }
     void set_Value(Arg<Variant> key, Arg<Variant> value) { dispatch<&Dictionary::set_Value>(this, key, value); }
+    // Stores the pairs in their order. A nil array stores none; a nil pair raises NilObjectException.
+    void Constructor(Arg<ArrayOf<Pair>> pairs) { dispatch<&Dictionary::Constructor>(this, pairs); }
     void __DependencyList() { dispatch<&Dictionary::__DependencyList>(this); }
 
     std::int32_t Count() { return dictionaryCount(this, 0); }
+    std::int32_t BinCount() { return dictionaryGetBins(this, 0); }
+    void set_BinCount(std::int32_t bins) { dictionarySetBins(this, 0, bins); }
 };
 
 }  // namespace tavrik

@@ -5,6 +5,7 @@
 #include "data/dictionary.h"
 #include "data/file_type.h"
 #include "data/folder_item.h"
+#include "data/pair.h"
 #include "data/streams.h"
 #include "data/variants.h"
 #include "maptool/app.h"
@@ -35,7 +36,7 @@ void build_classes() {
 void initialize() {
     build_classes<Window>();
     _WindowSupport::Windows__Init();
-    build_classes<Dictionary, MenuBar, MenuItem, QuitMenuItem,
+    build_classes<Pair, Dictionary, MenuBar, MenuItem, QuitMenuItem,
 
                   EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException,
                   OutOfBoundsException, OutOfMemoryException, ServiceNotAvailableException, StackOverflowException,
@@ -46,7 +47,10 @@ void initialize() {
 
                   _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
 
-                  _VariantBoolean, _VariantString, FileType,
+                  _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString,
+                  _VariantCString, _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean,
+                  _VariantDouble, _VariantSingle, _VariantString, _VariantUInt64, _VariantInt64, _VariantInt32,
+                  _VariantUInt32, FileType,
 
                   App, Window1::Window1, MenuBar1::MenuBar1>();
 }

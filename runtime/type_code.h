@@ -1,13 +1,18 @@
 #pragma once
 
+#include "runtime/structure.h"
+
 #include <tavrik/array.h>
+#include <tavrik/class_record.h>
 #include <tavrik/object.h>
+#include <tavrik/platform_types.h>
 #include <tavrik/string.h>
 #include <tavrik/values.h>
 
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <type_traits>
 
 // The type codes and signatures of C++ types, as the compiler knows them: `o<FileType>` for Ref<FileType>, "%b%si4" for
 // bool(const String&, std::int32_t).
@@ -65,14 +70,17 @@ struct PlainCode {
     static constexpr void append_to(TextBuffer& text) { text.append(Code.view()); }
 };
 
-template <class T>
-struct ReferenceCode {
+template <LiteralText Letter, class T>
+struct NamedCode {
     static constexpr void append_to(TextBuffer& text) {
-        text.append("o<");
+        text.append(Letter.view());
+        text.append("<");
         text.append(class_name<T>().view());
         text.append(">");
     }
 };
+template <class T>
+struct ReferenceCode : NamedCode<"o", T> {};
 template <>
 struct ReferenceCode<Variant> : PlainCode<"v"> {};
 template <class T>
@@ -100,7 +108,18 @@ template <> struct TypeCode<const String&> : detail::PlainCode<"s"> {};
 template <> struct TypeCode<void*> : detail::PlainCode<"p"> {};
 template <> struct TypeCode<Function> : detail::PlainCode<"p"> {};
 template <> struct TypeCode<ClassRecord*> : detail::PlainCode<"p"> {};
+template <> struct TypeCode<MethodRecord*> : detail::PlainCode<"p"> {};
+template <> struct TypeCode<PropertyRecord*> : detail::PlainCode<"p"> {};
+template <> struct TypeCode<AttributeEntry*> : detail::PlainCode<"p"> {};
+template <> struct TypeCode<CString> : detail::PlainCode<"?<CString>"> {};
+template <> struct TypeCode<PString> : detail::PlainCode<"?<PString>"> {};
+template <> struct TypeCode<WString> : detail::PlainCode<"?<WString>"> {};
+template <> struct TypeCode<CFStringRef> : detail::PlainCode<"?<CFStringRef>"> {};
+template <> struct TypeCode<WindowPtr> : detail::PlainCode<"?<WindowPtr>"> {};
+template <> struct TypeCode<OSType> : detail::PlainCode<"?<OSType>"> {};
 template <class T> struct TypeCode<Ref<T>> : detail::ReferenceCode<T> {};
+template <IsStructure T> struct TypeCode<T> : detail::NamedCode<"t", T> {};
+template <class T> requires std::is_enum_v<T> struct TypeCode<T> : detail::NamedCode<"i4", T> {};
 template <class T> struct TypeCode<Arg<T>> : detail::ReferenceCode<T> {};
 // clang-format on
 

@@ -72,16 +72,6 @@ ClassRecord* new_record(ClassRecord* parent, std::int32_t method_total, std::int
 
 namespace core {
 
-void prepare(const ClassRecord* record, ClassState& state) {
-    for (const ClassRecord* c = record; c != nullptr; c = c->parent) {
-        if (c->init != nullptr) state.inits.push_back(c->init);
-        if (c->destructor != nullptr) state.destructors.push_back(c->destructor);
-        if (c->exit != nullptr) state.exits.push_back(c->exit);
-    }
-    std::reverse(state.inits.begin(), state.inits.end());
-    state.prepared = true;
-}
-
 ClassRecord* new_hidden_class(ClassRecord* parent, const char* name, std::int32_t instance_size) {
     const std::int32_t methods = parent == nullptr ? 0 : parent->method_count;
     const std::int32_t events = parent == nullptr ? 0 : parent->event_count;

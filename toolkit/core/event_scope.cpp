@@ -14,7 +14,7 @@ namespace {
 
 constinit Event<bool(Object*)> unhandled_exception{"Application", "UnhandledException"};
 
-bool is(Object* object, std::string_view class_name) { return RuntimeObjectIsa(object, find_class(class_name)); }
+bool is(Object* object, std::string_view class_name) { return RuntimeObjectIsa(object, RuntimeFindClass(class_name)); }
 
 bool application_takes(Object* exception) {
     const Ref<Object> app = getAppObject();

@@ -18,12 +18,12 @@ struct ExceptionState : NativeState {
 
 // A program that has not built the class all the same gets an object that can be raised and told by its name.
 ClassRecord* exception_class(std::string_view name) {
-    if (ClassRecord* const record = core::find_class(name)) return record;
+    if (ClassRecord* const record = RuntimeFindClass(name)) return record;
     static std::vector<ClassRecord*> made;
     for (ClassRecord* const record : made) {
         if (view(record->name) == name) return record;
     }
-    ClassRecord* const parent = core::find_class("RuntimeException");
+    ClassRecord* const parent = RuntimeFindClass("RuntimeException");
     made.push_back(core::new_hidden_class(parent, std::string(name).c_str(),
                                           parent == nullptr ? std::int32_t{sizeof(Object)} : parent->instance_size));
     return made.back();

@@ -1,55 +1,34 @@
 #include "toolkit/core/hash.h"
 
-#include <array>
-#include <cstring>
 #include <random>
 
 namespace tavrik::core {
 namespace {
 
-struct Seeds {
-    Seeds() {
-        std::random_device source;
-        for (std::uint64_t& seed : words) seed = std::uint64_t{source()} << 32 | source() | 1;
-    }
-    std::array<std::uint64_t, 4> words{};
-};
-
-const Seeds& seeds() {
-    static const Seeds drawn;
-    return drawn;
-}
-
-// The two halves of a 128-bit product, folded: every bit of either factor reaches every bit of the result.
-std::uint64_t mix(std::uint64_t a, std::uint64_t b) {
-    __extension__ using Wide = unsigned __int128;
-    const Wide product = static_cast<Wide>(a) * b;
-    return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
-}
-
-std::uint64_t load(const char* bytes, std::size_t count) {
-    std::uint64_t word = 0;
-    if (count != 0) std::memcpy(&word, bytes, count);
-    return word;
+HashSeed draw_seed() {
+    std::random_device source;
+    const auto word = [&] { return std::uint64_t{source()} << 32 | source() | 1; };
+    return {word(), word(), word()};
 }
 
 }  // namespace
 
-std::uint64_t hash_bytes(std::string_view bytes) noexcept {
-    const auto& [s0, s1, s2, s3] = seeds().words;
-    std::uint64_t hash = s0 ^ bytes.size();
-    const char* at = bytes.data();
-    std::size_t left = bytes.size();
-    for (; left > 16; left -= 16, at += 16) hash = mix(load(at, 8) ^ s1 ^ hash, load(at + 8, 8) ^ s2);
-    const std::size_t first = left < 8 ? left : 8;
-    const std::uint64_t low = load(at, first);
-    const std::uint64_t high = load(at + first, left - first);
-    return mix(mix(low ^ s1 ^ hash, high ^ s2), s3 ^ bytes.size());
+const HashSeed& process_seed() {
+    static const HashSeed drawn = draw_seed();
+    return drawn;
 }
 
-std::uint64_t hash_word(std::uint64_t word) noexcept {
-    const auto& seed = seeds().words;
-    return mix(mix(word ^ seed[0], seed[1]), word ^ seed[2]);
+std::uint64_t hash_bytes(std::string_view bytes, const HashSeed& seed) noexcept {
+    std::uint64_t hash = seed.third ^ bytes.size();
+    if (bytes.size() > 16) {
+        const char* const last = bytes.data() + bytes.size() - 16;
+        for (const char* at = bytes.data(); at < last; at += 16) {
+            hash = mix(load<std::uint64_t>(at) ^ seed.first ^ hash, load<std::uint64_t>(at + 8) ^ seed.second);
+        }
+        bytes = {last, 16};
+    }
+    const Words words = short_words(bytes);
+    return mix(mix(words.low ^ seed.first ^ hash, words.high ^ seed.second), seed.third);
 }
 
 }  // namespace tavrik::core

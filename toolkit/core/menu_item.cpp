@@ -101,9 +101,9 @@ Ref<Object> find_below(const Object* item, Matches matches) {
 bool has_name(Object* item, std::string_view name) { return state_of(item).name == name; }
 
 front::MenuRole role_of(const Object* item) {
-    if (RuntimeObjectIsa(item, find_class("QuitMenuItem"))) return front::MenuRole::kQuit;
-    if (RuntimeObjectIsa(item, find_class("PrefsMenuItem"))) return front::MenuRole::kPreferences;
-    if (RuntimeObjectIsa(item, find_class("AppleMenuItem"))) return front::MenuRole::kAbout;
+    if (RuntimeObjectIsa(item, RuntimeFindClass("QuitMenuItem"))) return front::MenuRole::kQuit;
+    if (RuntimeObjectIsa(item, RuntimeFindClass("PrefsMenuItem"))) return front::MenuRole::kPreferences;
+    if (RuntimeObjectIsa(item, RuntimeFindClass("AppleMenuItem"))) return front::MenuRole::kAbout;
     return front::MenuRole::kPlain;
 }
 

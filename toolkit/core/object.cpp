@@ -72,6 +72,12 @@ void destroy(Object* object) noexcept {
 NativeState::~NativeState() = default;
 
 void RuntimeDestroyObject(Object* object) noexcept {
+    // Most objects are small values: nothing runs at their end, and nothing more is released.
+    core::ClassState& state = core::state_of(object->record);
+    if (state.ends_silently && object->native == nullptr && object->events == object->record->events) {
+        --state.live;
+        return core::free_block(object, static_cast<std::size_t>(object->record->instance_size));
+    }
     if (release_depth == kDeepestRelease) return enqueue(object);
     ++release_depth;
     destroy(object);

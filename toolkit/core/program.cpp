@@ -143,7 +143,7 @@ std::int32_t RuntimeExit() {
 }
 
 void RuntimeUnhandledException(Object* exception) {
-    if (exception == nullptr || RuntimeObjectIsa(exception, core::find_class("EndException"))) return;
+    if (exception == nullptr || RuntimeObjectIsa(exception, RuntimeFindClass("EndException"))) return;
     // Outside of an event nothing has caught it before the run loop ended.
     if (!core::EventScope::inside_event()) core::program().exit_status = 1;
     core::tell_failure(core::message_of(exception));

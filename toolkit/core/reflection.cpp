@@ -10,7 +10,26 @@
 #include <string>
 #include <unordered_map>
 
-namespace tavrik::core {
+namespace tavrik {
+
+ClassRecord* RuntimeFindClass(std::string_view name) {
+    // The list only grows at its head, so what has been seen stays seen.
+    static std::unordered_map<std::string_view, ClassRecord*> found;
+    static ClassRecord* seen = nullptr;
+    ClassRecord* const head = RuntimeGetClassList();
+    ClassRecord* unnamed = nullptr;
+    for (ClassRecord* record = head; record != seen; record = record->next) {
+        if (record->name == nullptr) unnamed = record;  // still being built: look again next time
+    }
+    for (ClassRecord* record = head; record != seen; record = record->next) {
+        if (record->name != nullptr) found.try_emplace(view(record->name), record);
+    }
+    if (unnamed == nullptr) seen = head;
+    const auto place = found.find(name);
+    return place == found.end() ? nullptr : place->second;
+}
+
+namespace core {
 namespace {
 
 [[noreturn]] void raise_missing(std::string_view class_name, std::string_view what, std::string_view name) {
@@ -37,25 +56,8 @@ const ClassRecord* owner_of_method(const ClassRecord* record, std::int32_t index
 
 }  // namespace
 
-ClassRecord* find_class(std::string_view name) {
-    // The list only grows at its head, so what has been seen stays seen.
-    static std::unordered_map<std::string_view, ClassRecord*> found;
-    static ClassRecord* seen = nullptr;
-    ClassRecord* const head = RuntimeGetClassList();
-    ClassRecord* unnamed = nullptr;
-    for (ClassRecord* record = head; record != seen; record = record->next) {
-        if (record->name == nullptr) unnamed = record;  // still being built: look again next time
-    }
-    for (ClassRecord* record = head; record != seen; record = record->next) {
-        if (record->name != nullptr) found.try_emplace(view(record->name), record);
-    }
-    if (unnamed == nullptr) seen = head;
-    const auto place = found.find(name);
-    return place == found.end() ? nullptr : place->second;
-}
-
 ClassRecord* need_class(std::string_view name) {
-    ClassRecord* const record = find_class(name);
+    ClassRecord* const record = RuntimeFindClass(name);
     if (record == nullptr) raise_missing("the program", "class", name);
     return record;
 }
@@ -123,4 +125,5 @@ Ref<Object> ObjectField::get(const Object* object) { return objGetter(object, of
 
 void ObjectField::set(Object* object, Object* value) { objSetter(object, offset(), value); }
 
-}  // namespace tavrik::core
+}  // namespace core
+}  // namespace tavrik

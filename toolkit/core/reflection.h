@@ -11,9 +11,7 @@
 // does. The objects below are constants of a source file that remember what they found.
 namespace tavrik::core {
 
-// The newest class of that name on the class list, or nil.
-ClassRecord* find_class(std::string_view name);
-// As find_class; raises FunctionNotFoundException if there is none.
+// As RuntimeFindClass; raises FunctionNotFoundException if there is none.
 ClassRecord* need_class(std::string_view name);
 
 const PropertyRecord* find_property(const ClassRecord* record, std::string_view name);

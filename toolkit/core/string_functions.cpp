@@ -1,14 +1,10 @@
+#include "toolkit/core/number_text.h"
 #include "toolkit/core/text.h"
 
 #include <tavrik/runtime.h>
 
 #include <algorithm>
-#include <charconv>
-#include <clocale>
 #include <cmath>
-#include <cstdlib>
-#include <limits>
-#include <string>
 
 namespace tavrik {
 namespace {
@@ -21,18 +17,6 @@ std::size_t not_below(std::int32_t number, std::int32_t least) {
 String part_of(const String& text, std::size_t from, std::size_t to) {
     if (from == 0 && to == text.view().size()) return text;
     return String(text.view().substr(from, to - from));
-}
-
-std::string_view without_leading_space(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t\r\n\v\f");
-    return first == std::string_view::npos ? std::string_view{} : text.substr(first);
-}
-
-bool begins_number(std::string_view text) {
-    const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
-    if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
-    if (!text.empty() && text.front() == '.') text.remove_prefix(1);
-    return !text.empty() && is_digit(text.front());
 }
 
 }  // namespace
@@ -87,18 +71,7 @@ String StringNthField(const String& text, const String& separator, std::int32_t 
     return {};
 }
 
-double StringVal(const String& text) {
-    std::string_view digits = without_leading_space(text.view());
-    if (!begins_number(digits)) return 0;
-    if (digits.front() == '+') digits.remove_prefix(1);
-
-    double value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (error != std::errc::result_out_of_range) return value;
-    // Too large or too small for a Double: infinity or zero, which only strtod tells apart.
-    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
-    return strtod_l(std::string(digits.data(), end).c_str(), nullptr, plain);
-}
+double StringVal(const String& text) { return core::read_number(text.view()); }
 
 double RuntimeCos(double angle) { return std::cos(angle); }
 double RuntimeSin(double angle) { return std::sin(angle); }

@@ -3,6 +3,8 @@
 #include <tavrik/object.h>
 #include <tavrik/string.h>
 
+#include <string_view>
+
 // The run-time description of a class. `__ctblinit` of the class builds it once; nothing frees it. The pointer to it
 // is the class reference. Strings in a record are locked, nil included.
 namespace tavrik {
@@ -96,6 +98,8 @@ TAVRIK_API Function* RuntimeNewVtable(std::int32_t slots);
 TAVRIK_API AttributeEntry* RuntimeAllocateAttributeTable(void* table, std::int32_t offset, std::int32_t count);
 // The newest record that can be seen by name; `next` leads on to the older ones.
 TAVRIK_API ClassRecord* RuntimeGetClassList();
+// The newest class on that list with this name, or nil.
+TAVRIK_API ClassRecord* RuntimeFindClass(std::string_view name);
 // The class's number, from 1 on in order of creation, and back. 0 stands for nil; an unknown number gives nil.
 TAVRIK_API std::int32_t RuntimeClassNumber(const ClassRecord* record);
 TAVRIK_API ClassRecord* RuntimeClassWithNumber(std::int32_t number);
