@@ -57,35 +57,21 @@ bool is_a(Arg<Object> object) {
     return RuntimeObjectIsa(object.object(), T::__Lookup());
 }
 
-// What a source file states of its class.
-struct Declaration {
-    Layer layer = Layer::kClassLayer;
-    ForwarderRow init{};
-    ForwarderRow exit{};  // the class's fields are released behind it
-    Lifecycle destructor = nullptr;
-    std::span<const OperationRow> operations{};
-    std::span<const FieldRow> fields{};
-    std::span<const PropertyRow> properties{};
-    std::span<const EventRow> events{};
-    std::span<const HandlerRow> handlers{};
-    std::span<const InterfaceRow> interfaces{};
-};
-
 namespace detail {
 
 template <class T>
 void make_fields(Object* object) {
-    for (const FieldRow& field : T::definition().fields) {
+    for (const FieldRow& field : T::definition().declared.fields) {
         if (field.is_array) field.make(object);
     }
 }
 
 template <class T>
 void release_fields(Object* object) {
-    for (const FieldRow& field : T::definition().fields) {
+    for (const FieldRow& field : T::definition().declared.fields) {
         if (field.is_counted) field.release(object);
     }
-    for (const PropertyRow& property : T::definition().properties) {
+    for (const PropertyRow& property : T::definition().declared.properties) {
         if (property.is_counted) property.release(object);
     }
 }
@@ -136,20 +122,9 @@ consteval ClassDefinition define(const Declaration& declared) {
     ClassDefinition definition{.name = class_name_record<T>};
     definition.parent = detail::parent_lookup(static_cast<const T*>(nullptr));
     definition.instance_size = sizeof(T);
-    definition.layer = declared.layer;
-    definition.init_forwards = declared.init.given;
-    definition.exit_forwards = declared.exit.given;
-    definition.init = declared.init.function;
-    definition.exit = declared.exit.function;
-    if (!declared.init.given && makes) definition.init = &detail::make_fields<T>;
-    if (!declared.exit.given && releases) definition.exit = &detail::release_fields<T>;
-    definition.destructor = declared.destructor;
-    definition.operations = declared.operations;
-    definition.fields = declared.fields;
-    definition.properties = declared.properties;
-    definition.events = declared.events;
-    definition.handlers = declared.handlers;
-    definition.interfaces = declared.interfaces;
+    definition.declared = declared;
+    definition.init = declared.init.given || !makes ? declared.init.function : &detail::make_fields<T>;
+    definition.exit = declared.exit.given || !releases ? declared.exit.function : &detail::release_fields<T>;
     return definition;
 }
 

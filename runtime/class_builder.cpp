@@ -1,4 +1,5 @@
 #include "runtime/class_definition.h"
+#include "runtime/invoke.h"
 #include "runtime/type_code.h"
 
 #include <tavrik/exception.h>
@@ -25,10 +26,10 @@ std::int32_t count_accessors(const PropertyRow& row) {
     return std::int32_t{row.getter.function != nullptr} + std::int32_t{row.setter.function != nullptr};
 }
 
-std::int32_t count_own_methods(const ClassDefinition& definition) {
-    auto count = static_cast<std::int32_t>(definition.operations.size());
-    count += std::int32_t{definition.init_forwards} + std::int32_t{definition.exit_forwards};
-    for (const PropertyRow& row : definition.properties) count += count_accessors(row);
+std::int32_t count_own_methods(const Declaration& declared) {
+    auto count = static_cast<std::int32_t>(declared.operations.size());
+    count += std::int32_t{declared.init.given} + std::int32_t{declared.exit.given};
+    for (const PropertyRow& row : declared.properties) count += count_accessors(row);
     return count;
 }
 
@@ -38,8 +39,8 @@ bool is_accessor(const MethodRecord& method) {
 }
 
 // The records between the parent's last and an application class's first own one stay blank.
-std::int32_t count_blank_methods(const ClassDefinition& definition, const ClassRecord* parent) {
-    if (definition.layer != Layer::kApplication || parent == nullptr) return 0;
+std::int32_t count_blank_methods(const Declaration& declared, const ClassRecord* parent) {
+    if (declared.layer != Layer::kApplication || parent == nullptr) return 0;
     return static_cast<std::int32_t>(
         std::count_if(parent->methods, parent->methods + parent->method_count, is_accessor));
 }
@@ -47,13 +48,13 @@ std::int32_t count_blank_methods(const ClassDefinition& definition, const ClassR
 // The names of a class's records: static strings in one block that lives as long as the record.
 class Names {
 public:
-    explicit Names(const ClassDefinition& definition) {
-        if (definition.init_forwards) add_room(kInit);
-        if (definition.exit_forwards) add_room(kExit);
-        for (const OperationRow& row : definition.operations) add_room(row.name);
-        for (const FieldRow& row : definition.fields) add_room(row.name);
-        for (const EventRow& row : definition.events) add_room(row.name);
-        for (const PropertyRow& row : definition.properties) {
+    explicit Names(const Declaration& declared) {
+        if (declared.init.given) add_room(kInit);
+        if (declared.exit.given) add_room(kExit);
+        for (const OperationRow& row : declared.operations) add_room(row.name);
+        for (const FieldRow& row : declared.fields) add_room(row.name);
+        for (const EventRow& row : declared.events) add_room(row.name);
+        for (const PropertyRow& row : declared.properties) {
             add_room(row.name);
             add_room(row.name, kGet);
             add_room(row.name, kSet);
@@ -95,7 +96,11 @@ private:
 class ClassBuilder {
 public:
     ClassBuilder(const ClassDefinition& definition, ClassRecord* parent, ClassRecord* record)
-        : definition_(definition), parent_(parent), record_(*record), names_(definition) {}
+        : definition_(definition),
+          declared_(definition.declared),
+          parent_(parent),
+          record_(*record),
+          names_(declared_) {}
 
     void build() {
         record_.name = definition_.name;
@@ -104,7 +109,7 @@ public:
         if (definition_.is_interface) return;
         record_.instance_size = definition_.instance_size;
         record_.init = definition_.init;
-        record_.destructor = definition_.destructor;
+        record_.destructor = declared_.destructor;
         record_.exit = definition_.exit;
         fill_vtable();
         fill_methods();
@@ -117,12 +122,12 @@ private:
     void fill_vtable() {
         const std::int32_t inherited = parent_ == nullptr ? 0 : parent_->vtable_size;
         record_.vtable_size = inherited + static_cast<std::int32_t>(std::ranges::count(
-                                              definition_.operations, Placing::kNewSlot, &OperationRow::placing));
+                                              declared_.operations, Placing::kNewSlot, &OperationRow::placing));
         record_.vtable = RuntimeNewVtable(record_.vtable_size);
         if (parent_ != nullptr) std::copy_n(parent_->vtable, inherited, record_.vtable);
 
         std::int32_t next = inherited;
-        for (const OperationRow& row : definition_.operations) {
+        for (const OperationRow& row : declared_.operations) {
             if (row.placing == Placing::kWithoutSlot) continue;
             if (row.placing == Placing::kNewSlot) *row.slot = next++;
             if (*row.slot < 0 || *row.slot >= record_.vtable_size)
@@ -134,19 +139,21 @@ private:
     }
 
     void fill_methods() {
-        next_method_ = record_.methods + record_.method_count - count_own_methods(definition_);
+        next_method_ = record_.methods + record_.method_count - count_own_methods(declared_);
         first_own_method_ = next_method_;
         StringRecord* const plain = signature_of_nothing();
-        if (definition_.exit_forwards) {
-            add_method(names_.make(Names::kExit), plain, 0, reinterpret_cast<Function>(definition_.exit), nullptr);
+        if (declared_.exit.given) {
+            add_method(names_.make(Names::kExit), plain, 0, reinterpret_cast<Function>(definition_.exit),
+                       invoker_of<void>());
         }
-        if (definition_.init_forwards) {
-            add_method(names_.make(Names::kInit), plain, 0, reinterpret_cast<Function>(definition_.init), nullptr);
+        if (declared_.init.given) {
+            add_method(names_.make(Names::kInit), plain, 0, reinterpret_cast<Function>(definition_.init),
+                       invoker_of<void>());
         }
-        for (const OperationRow& row : definition_.operations) {
+        for (const OperationRow& row : declared_.operations) {
             add_method(names_.make(record_name(row)), row.signature, row.flags, row.function(), row.invoker());
         }
-        for (const PropertyRow& row : definition_.properties) {
+        for (const PropertyRow& row : declared_.properties) {
             add_accessor(row, row.getter, kGet);
             add_accessor(row, row.setter, kSet);
         }
@@ -177,11 +184,11 @@ private:
 
     void fill_events() {
         std::int32_t next = parent_ == nullptr ? 0 : parent_->event_count;
-        for (const EventRow& row : definition_.events) {
+        for (const EventRow& row : declared_.events) {
             record_.events[next].name = names_.make(row.name);
             *row.index = next++;
         }
-        for (const HandlerRow& row : definition_.handlers) {
+        for (const HandlerRow& row : declared_.handlers) {
             const bool known = *row.index >= 0 && *row.index < record_.event_count;
             if (!known || view(record_.events[*row.index].name) != row.event)
                 fail("handles an event that it hasn't", row.event);
@@ -194,17 +201,26 @@ private:
     void fill_properties() {
         next_property_ = record_.properties + (parent_ == nullptr ? 0 : parent_->property_count);
         first_own_property_ = next_property_;
-        for (const FieldRow& row : definition_.fields) {
+        for (const FieldRow& row : declared_.fields) {
             PropertyRecord& property = add_property(row.name, row.type_code, row.flags);
+            if ((row.flags & kShared) != 0) continue;
             property.parameter = row.offset();
             property.getter = row.getter();
             property.setter = row.setter();
+            property.read_invoker = row.read_invoker();
+            property.write_invoker = row.write_invoker();
         }
-        for (const PropertyRow& row : definition_.properties) {
+        for (const PropertyRow& row : declared_.properties) {
             const std::int32_t writable = row.setter.function == nullptr ? 0 : kWritable;
             PropertyRecord& property = add_property(row.name, row.type_code, kPublic | writable);
-            if (row.getter.function != nullptr) property.getter = row.getter.function();
-            if (row.setter.function != nullptr) property.setter = row.setter.function();
+            if (row.getter.function != nullptr) {
+                property.getter = row.getter.function();
+                property.read_invoker = row.getter.property_invoker();
+            }
+            if (row.setter.function != nullptr) {
+                property.setter = row.setter.function();
+                property.write_invoker = row.setter.property_invoker();
+            }
         }
     }
 
@@ -231,7 +247,7 @@ private:
 
     void fill_interfaces() {
         InterfaceEntry* entry = record_.interfaces();
-        for (const InterfaceRow& row : definition_.interfaces) {
+        for (const InterfaceRow& row : declared_.interfaces) {
             entry->interface = row.lookup();
             entry->operation_count = row.operation_count;
             entry->operations = RuntimeNewVtable(row.operation_count);
@@ -254,6 +270,7 @@ private:
     }
 
     const ClassDefinition& definition_;
+    const Declaration& declared_;
     const ClassRecord* parent_;
     ClassRecord& record_;
     Names names_;
@@ -267,15 +284,15 @@ private:
 
 void build_class(const ClassDefinition& definition, ClassRecord*& place) {
     if (place != nullptr) return;
+    const Declaration& declared = definition.declared;
     ClassRecord* const parent = definition.parent == nullptr ? nullptr : definition.parent();
     const ClassRecord none{};
     const ClassRecord& inherited = parent == nullptr ? none : *parent;
     const auto size = [](const auto& rows) { return static_cast<std::int32_t>(rows.size()); };
     const std::int32_t methods =
-        inherited.method_count + count_blank_methods(definition, parent) + count_own_methods(definition);
-    place =
-        RuntimeNewClass(parent, methods, size(definition.interfaces), inherited.event_count + size(definition.events),
-                        0, inherited.property_count + size(definition.fields) + size(definition.properties), 0);
+        inherited.method_count + count_blank_methods(declared, parent) + count_own_methods(declared);
+    place = RuntimeNewClass(parent, methods, size(declared.interfaces), inherited.event_count + size(declared.events),
+                            0, inherited.property_count + size(declared.fields) + size(declared.properties), 0);
     ClassBuilder(definition, parent, place).build();
 }
 

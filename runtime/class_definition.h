@@ -35,7 +35,7 @@ struct OperationRow {
     }
 };
 
-// A field that is served as it lies.
+// A field that is served as it lies. A shared one has a record and nothing else.
 struct FieldRow {
     const char* name;
     StringRecord* type_code;
@@ -43,6 +43,8 @@ struct FieldRow {
     std::int32_t (*offset)();
     FunctionSource getter;
     FunctionSource setter;
+    FunctionSource read_invoker;
+    FunctionSource write_invoker;
     bool is_array;
     bool is_counted;
     Lifecycle make;     // gives an array field its empty array
@@ -54,6 +56,7 @@ struct AccessorRow {
     StringRecord* signature = nullptr;
     FunctionSource function = nullptr;  // nullptr: the property has no such accessor
     FunctionSource invoker = nullptr;
+    FunctionSource property_invoker = nullptr;  // of the property's record: it reads, or writes
 };
 
 struct PropertyRow {
@@ -91,16 +94,11 @@ struct ForwarderRow {
 // How the totals of a class count: an application class leaves room for the accessors of its parent once more.
 enum class Layer : std::uint8_t { kClassLayer, kApplication };
 
-struct ClassDefinition {
-    StringRecord* name = nullptr;
-    ClassRecord* (*parent)() = nullptr;
-    std::int32_t instance_size = 0;
-    bool is_interface = false;
+// What a source file states of its class.
+struct Declaration {
     Layer layer = Layer::kClassLayer;
-    Lifecycle init = nullptr;
-    Lifecycle exit = nullptr;
-    bool init_forwards = false;  // then it is a method record too
-    bool exit_forwards = false;
+    ForwarderRow init{};
+    ForwarderRow exit{};  // the class's fields are released behind it
     Lifecycle destructor = nullptr;
     std::span<const OperationRow> operations{};
     std::span<const FieldRow> fields{};
@@ -108,6 +106,17 @@ struct ClassDefinition {
     std::span<const EventRow> events{};
     std::span<const HandlerRow> handlers{};
     std::span<const InterfaceRow> interfaces{};
+};
+
+// What the compiler adds to it.
+struct ClassDefinition {
+    StringRecord* name = nullptr;
+    ClassRecord* (*parent)() = nullptr;
+    std::int32_t instance_size = 0;
+    bool is_interface = false;
+    Lifecycle init = nullptr;
+    Lifecycle exit = nullptr;
+    Declaration declared{};
 };
 
 // Builds the record of a class and stores it in `place` before it is filled in; does nothing if it is there. A mistake

@@ -38,6 +38,20 @@ template <>
 struct Erasure<void> {
     using Type = void;
 };
+// All that has the type code of a pointer.
+template <class T>
+requires(!std::is_same_v<T, Object>) struct Erasure<T*> {
+    using Type = void*;
+    static Type to(T* value) { return reinterpret_cast<void*>(value); }
+    static T* from(Type value) { return reinterpret_cast<T*>(value); }
+};
+template <class T>
+requires std::is_enum_v<T>
+struct Erasure<T> {
+    using Type = std::int32_t;
+    static Type to(T value) { return static_cast<std::int32_t>(value); }
+    static T from(Type value) { return static_cast<T>(value); }
+};
 
 template <class T>
 using Erased = typename Erasure<T>::Type;

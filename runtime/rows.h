@@ -4,6 +4,7 @@
 #include "runtime/dispatch.h"
 #include "runtime/erased.h"
 #include "runtime/field.h"
+#include "runtime/invoke.h"
 #include "runtime/type_code.h"
 
 #include <tavrik/fields.h>
@@ -26,6 +27,12 @@ decltype(auto) adapt(From&& from) {
         } else {
             return To::unchecked(from);
         }
+    } else if constexpr (std::is_same_v<Plain, Ref<Object>> && std::is_lvalue_reference_v<To>) {
+        return Erasure<To>::from(from);
+    } else if constexpr (std::is_same_v<Plain, void*>) {
+        return reinterpret_cast<To>(from);
+    } else if constexpr (std::is_enum_v<To> && std::is_same_v<Plain, std::int32_t>) {
+        return static_cast<To>(from);
     } else {
         return std::forward<From>(from);
     }
@@ -82,6 +89,7 @@ struct SignatureOfMember;
 template <class R, class C, class... A>
 struct SignatureOfMember<R (C::*)(A...)> {
     static constexpr StringRecord* record = signature_record<R, A...>;
+    static constexpr FunctionSource invoker = &invoker_of<R, A...>;
 };
 
 constexpr std::int32_t flags_of_name(const char* name) {
@@ -89,8 +97,6 @@ constexpr std::int32_t flags_of_name(const char* name) {
     if (name[0] == '*') return kPublic | kVariableArguments;
     return kPublic;
 }
-
-inline Function no_invoker() { return nullptr; }
 
 template <auto Body>
 Function itself() {
@@ -109,7 +115,7 @@ constexpr OperationRow make_operation(const char* name, Placing placing) {
             .flags = flags_of_name(name),
             .slot = placing == Placing::kWithoutSlot ? nullptr : &slot_of<Member>,
             .function = stands_itself ? &itself<Body> : &Entry<Member, Body, C, M, decltype(+Body)>::function,
-            .invoker = &no_invoker};
+            .invoker = SignatureOfMember<M>::invoker};
 }
 
 template <auto Member>
@@ -148,6 +154,7 @@ struct SharedEntry;
 template <class R, class... A, R (*F)(A...)>
 struct SharedEntry<F> {
     static constexpr StringRecord* signature = signature_record<R, A...>;
+    static constexpr FunctionSource invoker = &shared_invoker_of<R, A...>;
     static Erased<R> call(Erased<A>... arguments) { return F(Erasure<A>::from(static_cast<Erased<A>>(arguments))...); }
     static Function function() { return reinterpret_cast<Function>(&call); }
 };
@@ -163,7 +170,7 @@ constexpr OperationRow shared(const char* name) {
             .flags = kPublic | kShared,
             .slot = nullptr,
             .function = &detail::SharedEntry<F>::function,
-            .invoker = &detail::no_invoker};
+            .invoker = detail::SharedEntry<F>::invoker};
 }
 
 namespace detail {
@@ -191,6 +198,17 @@ struct PlainAccess {
     static T get(Object* object, std::int32_t offset) { return Getter(object, offset); }
     static void set(Object* object, std::int32_t offset, T value) { Setter(object, offset, value); }
 };
+template <class T>
+struct PointerAccess {
+    using Value = T;
+    using Argument = void*;
+    static void* get(Object* object, std::int32_t offset) {
+        return reinterpret_cast<void*>(get_bits<T>(object, offset));
+    }
+    static void set(Object* object, std::int32_t offset, void* value) {
+        set_bits<T>(object, offset, reinterpret_cast<T>(value));
+    }
+};
 struct StringAccess {
     using Value = String;
     using Argument = const String&;
@@ -212,7 +230,8 @@ template <> struct FieldAccess<std::int32_t> : PlainAccess<std::int32_t, intGett
 template <> struct FieldAccess<double> : PlainAccess<double, doubleGetter, doubleSetter> {};
 template <> struct FieldAccess<Color> : PlainAccess<Color, get_bits<Color>, set_bits<Color>> {};
 template <> struct FieldAccess<void*> : PlainAccess<void*, get_bits<void*>, set_bits<void*>> {};
-template <> struct FieldAccess<ClassRecord*> : PlainAccess<ClassRecord*, get_bits<ClassRecord*>, set_bits<ClassRecord*>> {};
+template <> struct FieldAccess<ClassRecord*> : PointerAccess<ClassRecord*> {};
+template <> struct FieldAccess<Function> : PointerAccess<Function> {};
 template <> struct FieldAccess<StringField> : StringAccess {};
 // clang-format on
 template <class T>
@@ -298,6 +317,22 @@ struct ArgumentOfValue<Ref<T>> {
 template <class T>
 using ArgumentOf = typename ArgumentOfValue<T>::Type;
 
+// And back.
+template <class A>
+struct ValueOfArgument {
+    using Type = A;
+};
+template <>
+struct ValueOfArgument<const String&> {
+    using Type = String;
+};
+template <class T>
+struct ValueOfArgument<Arg<T>> {
+    using Type = Ref<T>;
+};
+template <class A>
+using ValueOf = typename ValueOfArgument<A>::Type;
+
 template <class V>
 struct IgnoringSetter {
     static void call(Object*, std::int32_t, Erased<V>) {}
@@ -320,14 +355,17 @@ struct StoredSetter {
 
 template <class Entry, class R>
 constexpr AccessorRow getter_row() {
-    return {
-        .signature = signature_record<R, std::int32_t>, .function = &as_function<&Entry::call>, .invoker = &no_invoker};
+    return {.signature = signature_record<R, std::int32_t>,
+            .function = &as_function<&Entry::call>,
+            .invoker = &invoker_of<R, std::int32_t>,
+            .property_invoker = &read_invoker_of<R>};
 }
 template <class Entry, class V>
 constexpr AccessorRow setter_row() {
     return {.signature = signature_record<void, std::int32_t, V>,
             .function = &as_function<&Entry::call>,
-            .invoker = &no_invoker};
+            .invoker = &invoker_of<void, std::int32_t, V>,
+            .property_invoker = &write_invoker_of<ValueOf<V>>};
 }
 
 struct None {};
@@ -364,10 +402,27 @@ constexpr FieldRow field(const char* name) {
             .offset = &Entry::offset,
             .getter = &detail::as_function<&Access::get>,
             .setter = &detail::as_function<&Access::set>,
+            .read_invoker = &read_invoker_of<typename Access::Value>,
+            .write_invoker = &write_invoker_of<typename Access::Value>,
             .is_array = detail::is_array<typename Entry::Type>,
             .is_counted = detail::is_counted<typename Entry::Type>,
             .make = &Entry::make,
             .release = &Entry::release};
+}
+
+namespace detail {
+
+template <class T>
+constexpr StringRecord* type_code_of_global(const Field<T>*) {
+    return type_code_record<Ref<T>>;
+}
+
+}  // namespace detail
+
+// A field that all objects of the class share: a static Field. It has a record, and no accessors.
+template <auto Global>
+constexpr FieldRow shared_field(const char* name) {
+    return {.name = name, .type_code = detail::type_code_of_global(Global), .flags = kShared | kWritable};
 }
 
 // A computed property: its public members. Without a setter it can only be read.

@@ -60,31 +60,30 @@ constexpr HandlerRow kHandlerWithoutSlot[] = {handles<&Bell::Toll>("Played", Ins
 constexpr InterfaceRow kInterfaceWithoutSlot[] = {implements<Ringing, &Bell::Toll>()};
 
 struct Mistake {
-    ClassDefinition definition;
+    ClassRecord* (*parent)();
+    Declaration declared;
     std::string told;
 };
 
 TEST(DeclarationErrorsDeathTest, End_the_program_with_a_sentence_that_names_class_and_member) {
     const auto parent = &Instrument::__Lookup;
     const Mistake mistakes[] = {
-        {{.parent = parent, .operations = kRingTwice}, "declares an operation twice: Ring"},
-        {{.parent = parent, .operations = kOverrideOfNothing}, "overrides an operation that no parent has: Forgotten"},
-        {{.operations = kOverrideOfItsOwn}, "overrides an operation of its own: Play"},
-        {{.parent = parent, .properties = kSizeTwice}, "declares an operation twice: Size.Get"},
-        {{.parent = parent, .fields = kSizeField, .properties = kSize}, "declares a property twice: Size"},
-        {{.parent = parent, .operations = kRingOnce, .handlers = kUnknownEvent},
-         "handles an event that it hasn't: Undeclared"},
-        {{.parent = parent, .operations = kRingOnce, .handlers = kMisnamedEvent},
-         "handles an event that it hasn't: Broken"},
-        {{.parent = parent, .handlers = kHandlerWithoutSlot},
-         "handles an event with an operation that it hasn't: Played"},
-        {{.parent = parent, .interfaces = kInterfaceWithoutSlot},
+        {parent, {.operations = kRingTwice}, "declares an operation twice: Ring"},
+        {parent, {.operations = kOverrideOfNothing}, "overrides an operation that no parent has: Forgotten"},
+        {nullptr, {.operations = kOverrideOfItsOwn}, "overrides an operation of its own: Play"},
+        {parent, {.properties = kSizeTwice}, "declares an operation twice: Size.Get"},
+        {parent, {.fields = kSizeField, .properties = kSize}, "declares a property twice: Size"},
+        {parent, {.operations = kRingOnce, .handlers = kUnknownEvent}, "handles an event that it hasn't: Undeclared"},
+        {parent, {.operations = kRingOnce, .handlers = kMisnamedEvent}, "handles an event that it hasn't: Broken"},
+        {parent, {.handlers = kHandlerWithoutSlot}, "handles an event with an operation that it hasn't: Played"},
+        {parent,
+         {.interfaces = kInterfaceWithoutSlot},
          "implements an interface with an operation that it hasn't: wrong.Ringing"},
     };
     Instrument::__ctblinit();
-    for (const auto& [given, told] : mistakes) {
-        ClassDefinition definition = given;
-        definition.name = class_name_record<Bell>;
+    for (const auto& [parent_lookup, declared, told] : mistakes) {
+        const ClassDefinition definition{
+            .name = class_name_record<Bell>, .parent = parent_lookup, .declared = declared};
         ClassRecord* record = nullptr;
         EXPECT_DEATH(build_class(definition, record), "class wrong.Bell: " + told) << told;
     }

@@ -1,6 +1,7 @@
+#include "toolkit/core/array.h"
+
 #include "toolkit/core/class_state.h"
 
-#include <tavrik/array.h>
 #include <tavrik/exception.h>
 #include <tavrik/runtime.h>
 
@@ -13,9 +14,8 @@
 namespace tavrik {
 namespace {
 
-// What is stored for an element of type T.
 template <class T>
-using Stored = std::conditional_t<std::is_same_v<T, Object>, Ref<Object>, T>;
+using Stored = typename ElementOf<T>::Stored;
 
 template <class T>
 struct ArrayState : NativeState {
@@ -49,6 +49,13 @@ struct Elements {
         return *native<ArrayState<T>>(array);
     }
     static std::vector<Stored<T>>& all(Array* array) { return state(array).elements; }
+
+    // Where the elements lie has changed, or how many there are.
+    static void note_change(Array* array) {
+        auto& elements = all(array);
+        array->elements = elements.data();
+        array->size = static_cast<std::int32_t>(elements.size());
+    }
 
     static Stored<T>& element(Array* array, std::int32_t index) {
         auto& elements = all(array);
@@ -88,6 +95,7 @@ struct Elements {
             }
             elements.resize(size);
         });
+        note_change(array);
         state(array).upper_bound = upper_bound;
     }
 
@@ -95,12 +103,14 @@ struct Elements {
         auto& elements = all(array);
         if (index < 0 || static_cast<std::size_t>(index) > elements.size()) raise_out_of_bounds(index);
         grow([&] { elements.insert(elements.begin() + index, Stored<T>(value)); });
+        note_change(array);
     }
 
     static void remove(Array* array, std::int32_t index) {
         auto& elements = all(array);
         [[maybe_unused]] const Stored<T> dropped = std::move(element(array, index));
         elements.erase(elements.begin() + index);
+        note_change(array);
     }
 
     static bool is(const Stored<T>& element, Argument value) {
@@ -138,22 +148,41 @@ ClassRecord* array_class() {
 }
 
 template <class T>
-Ref<Array> make(std::int32_t dimensions, std::int32_t upper_bound) {
+const ArrayOperations& operations_of() {
     static const ArrayOperations operations{erased(Elements<T>::read),       erased(Elements<T>::write),
                                             erased(Elements<T>::resize),     erased(Elements<T>::insert),
                                             erased(Elements<T>::remove),     erased(Elements<T>::index_of),
                                             erased(Elements<T>::upper_bound)};
-    auto array = static_ref<Array>(RuntimeNewObject(array_class()));
+    return operations;
+}
+
+template <class T>
+Ref<Array> make(std::int32_t dimensions, std::int32_t upper_bound) {
+    Ref<Array> array = core::new_array(operations_of<T>());
     auto* const state = new ArrayState<T>;
     array->native = state;
-    array->operations = &operations;
     state->dimensions = dimensions;
     state->upper_bound = upper_bound;
     Elements<T>::grow([&] { state->elements.resize(size_for(upper_bound, dimensions)); });
+    Elements<T>::note_change(array.get());
     return array;
 }
 
 }  // namespace
+
+namespace core {
+
+bool is_array(const Object* object) { return object != nullptr && object->record == array_class(); }
+bool has_objects(const Array* array) { return array->operations == &operations_of<Object>(); }
+bool has_int32s(const Array* array) { return array->operations == &operations_of<std::uint32_t>(); }
+
+Ref<Array> new_array(const ArrayOperations& operations) {
+    auto array = static_ref<Array>(RuntimeNewObject(array_class()));
+    array->operations = &operations;
+    return array;
+}
+
+}  // namespace core
 
 Ref<Array> CreateArray(std::int32_t dimensions, std::int32_t width, std::int32_t upper_bound) {
     if (dimensions < 1) raise_out_of_bounds(dimensions);

@@ -27,6 +27,13 @@ struct ArrayOperations {
 
 struct Array : Object {
     const ArrayOperations* operations;
+    // The elements, as ElementOf keeps them, in an array that has them itself; none in a view of another one.
+    void* elements;
+    std::int32_t size;
+
+    bool has(std::int32_t index) const noexcept {
+        return static_cast<std::uint32_t>(index) < static_cast<std::uint32_t>(size);
+    }
 };
 
 // A new array, every dimension of which goes from 0 to `upper_bound` (-1: empty). Raises OutOfBoundsException for
@@ -38,24 +45,28 @@ template <class T>
 struct ElementOf {
     using Result = Ref<Object>;
     using Argument = Object*;
+    using Stored = Ref<Object>;
     static constexpr std::int32_t kWidth = kReferenceWidth;
 };
 template <>
 struct ElementOf<String> {
     using Result = String;
     using Argument = const String&;
+    using Stored = String;
     static constexpr std::int32_t kWidth = kStringWidth;
 };
 template <>
 struct ElementOf<float> {
     using Result = float;
     using Argument = float;
+    using Stored = float;
     static constexpr std::int32_t kWidth = kSingleWidth;
 };
 template <>
 struct ElementOf<double> {
     using Result = double;
     using Argument = double;
+    using Stored = double;
     static constexpr std::int32_t kWidth = kDoubleWidth;
 };
 // All integers of one width travel as the unsigned one.
@@ -64,6 +75,7 @@ requires std::is_integral_v<T>
 struct ElementOf<T> {
     using Result = std::make_unsigned_t<std::conditional_t<std::is_same_v<T, bool>, std::uint8_t, T>>;
     using Argument = Result;
+    using Stored = Result;
     static constexpr std::int32_t kWidth = sizeof(T);
 };
 
@@ -90,9 +102,9 @@ struct ArrayOf : Array {
 
     auto at(std::int32_t index) {
         if constexpr (kIsReference) {
-            return static_ref<T>(as<typename ArrayTable<T>::Read>(operations->read)(this, index));
+            return static_ref<T>(read(index));
         } else {
-            return static_cast<T>(as<typename ArrayTable<T>::Read>(operations->read)(this, index));
+            return static_cast<T>(read(index));
         }
     }
     void set(std::int32_t index, Argument value) {
@@ -112,6 +124,10 @@ struct ArrayOf : Array {
 private:
     static constexpr bool kIsReference = ElementOf<T>::kWidth == kReferenceWidth;
 
+    typename ElementOf<T>::Result read(std::int32_t index) {
+        if (has(index)) return static_cast<const typename ElementOf<T>::Stored*>(elements)[index];
+        return as<typename ArrayTable<T>::Read>(operations->read)(this, index);
+    }
     template <class Type>
     static Type as(Function function) {
         return reinterpret_cast<Type>(function);
