@@ -8,6 +8,14 @@
 #include "data/pair.h"
 #include "data/streams.h"
 #include "data/variants.h"
+#include "introspection/array_info.h"
+#include "introspection/attribute_info.h"
+#include "introspection/class_info.h"
+#include "introspection/constructor_info.h"
+#include "introspection/leaf_types.h"
+#include "introspection/method_info.h"
+#include "introspection/parameter_info.h"
+#include "introspection/property_info.h"
 #include "maptool/app.h"
 #include "maptool/menu_bar1.h"
 #include "maptool/window1.h"
@@ -36,7 +44,17 @@ void build_classes() {
 void initialize() {
     build_classes<Window>();
     _WindowSupport::Windows__Init();
-    build_classes<Pair, Dictionary, MenuBar, MenuItem, QuitMenuItem,
+    build_classes<Pair, Dictionary,
+
+                  Introspection::ArrayInfo, Introspection::MemberInfo, Introspection::TypeInfo,
+                  Introspection::ValueTypeInfo, Introspection::ClassInfo, Introspection::PrimitiveTypeInfo,
+                  Introspection::PointerTypeInfo, Introspection::StructureInfo, Introspection::EnumInfo,
+                  Introspection::VariantInfo, Introspection::StringInfo, Introspection::PropertyInfo,
+                  Introspection::PropertyInfoImp, Introspection::MethodBase, Introspection::MethodInfo,
+                  Introspection::MethodInfoImp, Introspection::ParameterInfo, Introspection::ParameterInfoImp,
+                  Introspection::ConstructorInfo, Introspection::ConstructorInfoImp, Introspection::AttributeInfo,
+
+                  MenuBar, MenuItem, QuitMenuItem,
 
                   EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException,
                   OutOfBoundsException, OutOfMemoryException, ServiceNotAvailableException, StackOverflowException,
@@ -59,6 +77,9 @@ void finalize() {
     Tavrik::_mImplicitWindowList__Exit();
     _WindowSupport::mDirtyWindows__Exit();
     _WindowSupport::Windows__Exit();
+    Introspection::ArrayInfo::mArrayMap__Exit();
+    Introspection::ClassInfo::sClassRefMap__Exit();
+    Introspection::ClassInfo::sClassFQNToRefMap__Exit();
     MenuBar1::_implicitInstance__Exit();
 }
 

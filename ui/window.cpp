@@ -1,6 +1,7 @@
 #include "ui/window.h"
 
 #include "data/dictionary.h"
+#include "introspection/introspection.h"
 #include "runtime/frame.h"
 #include "runtime/tavrik_module.h"
 #include "ui/control.h"
@@ -33,15 +34,11 @@ void leave_window_list(Window* self) {
     }
 }
 
-String short_class_name(Object* object) {
-    const String name(RuntimeClassOf(object)->name);
-    return Tavrik::NthField(name, "."_s, Tavrik::CountFields(name, "."_s));
-}
-
 void leave_implicit_windows(Window* self) {
+    const Ref<Introspection::TypeInfo> type = Introspection::GetType(self);
     if (Tavrik::_mImplicitWindowList == nullptr) return;
     const auto implicit = Ref<Dictionary>::hold(Tavrik::_mImplicitWindowList);
-    const Ref<Variant> key = StringToVariant(short_class_name(self));
+    const Ref<Variant> key = StringToVariant(type->Name());
     if (implicit->Lookup(key, nullptr).object() == self) implicit->Remove(key);
 }
 

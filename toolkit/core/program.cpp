@@ -37,6 +37,7 @@ struct Program {
     Ref<Object> app;
     bool has_quit = false;
     std::int32_t exit_status = 0;
+    std::vector<void (*)()> at_exit;
 };
 
 Program& program() {
@@ -133,11 +134,18 @@ void RuntimeRun() {
     if (!program.has_quit) core::front().run();
 }
 
+void RuntimeAtExit(void (*function)()) { core::program().at_exit.push_back(function); }
+
 std::int32_t RuntimeExit() {
     core::Program& program = core::program();
     core::deliver([] { core::close_all_windows(core::AppIsQuitting::kNoMatterWhat); });
     core::deliver([&] { program.app = nullptr; });
     program.front = nullptr;
+    while (!program.at_exit.empty()) {
+        const auto function = program.at_exit.back();
+        program.at_exit.pop_back();
+        core::deliver(function);
+    }
     if (core::kListsLiveObjects) core::list_live_objects();
     return std::exchange(program.exit_status, 0);
 }

@@ -12,6 +12,9 @@ namespace tavrik {
 // run loop. In a debug build it lists the objects that are still alive.
 TAVRIK_API void RuntimeInit();
 TAVRIK_API std::int32_t RuntimeExit();
+// `function` runs in RuntimeExit, before the living objects are listed; what was given last runs first. Each call is
+// for one exit.
+TAVRIK_API void RuntimeAtExit(void (*function)());
 // Dispatches events until the application quits. Returns at once if it has quit already.
 TAVRIK_API void RuntimeRun();
 // Takes `app` as the application object, and holds it until RuntimeExit.
