@@ -1,0 +1,82 @@
+// How many records of each kind a complete class has of its own, and how many slots in all.
+#include <tavrik/class_record.h>
+
+#include <gtest/gtest.h>
+
+namespace tavrik::test {
+namespace {
+
+struct Totals {
+    const char* name;
+    std::int32_t methods;
+    std::int32_t slots;
+    std::int32_t properties;
+    std::int32_t events = 0;
+};
+
+constexpr Totals kTotals[] = {
+    {"RuntimeException", 7, 1, 2},
+    {"NilObjectException", 0, 1, 0},
+    {"Pair", 3, 1, 4},
+    {"Dictionary", 16, 11, 2},
+    {"FileType", 17, 15, 5},
+    {"_VariantBoolean", 10, 10, 0},
+    {"_VariantColor", 10, 10, 0},
+    {"_VariantCurrency", 10, 10, 0},
+    {"_VariantDouble", 11, 11, 0},
+    {"_VariantSingle", 11, 11, 0},
+    {"_VariantInt32", 12, 12, 0},
+    {"_VariantUInt32", 12, 12, 0},
+    {"_VariantInt64", 12, 12, 0},
+    {"_VariantUInt64", 12, 12, 0},
+    {"_VariantString", 18, 16, 0},
+    {"_VariantCString", 13, 13, 0},
+    {"_VariantPString", 13, 13, 0},
+    {"_VariantWString", 13, 13, 0},
+    {"_VariantCFStringRef", 13, 13, 0},
+    {"_VariantPtr", 7, 7, 0},
+    {"_VariantOSType", 7, 7, 0},
+    {"_VariantWindowPtr", 3, 3, 0},
+    {"_VariantStructure", 4, 2, 0},
+    {"Introspection.MemberInfo", 4, 3, 5},
+    {"Introspection.TypeInfo", 17, 10, 24},
+    {"Introspection.ValueTypeInfo", 1, 10, 0},
+    {"Introspection.PrimitiveTypeInfo", 1, 11, 0},
+    {"Introspection.PointerTypeInfo", 1, 11, 0},
+    {"Introspection.StructureInfo", 1, 11, 0},
+    {"Introspection.EnumInfo", 1, 11, 0},
+    {"Introspection.VariantInfo", 1, 10, 0},
+    {"Introspection.StringInfo", 1, 10, 0},
+    {"Introspection.ClassInfo", 5, 10, 3},
+    {"Introspection.ArrayInfo", 5, 10, 3},
+    {"Introspection.MethodBase", 3, 5, 6},
+    {"Introspection.MethodInfo", 3, 7, 1},
+    {"Introspection.MethodInfoImp", 1, 7, 0},
+    {"Introspection.ConstructorInfo", 1, 6, 0},
+    {"Introspection.ConstructorInfoImp", 1, 6, 0},
+    {"Introspection.PropertyInfo", 6, 5, 9},
+    {"Introspection.PropertyInfoImp", 1, 5, 0},
+    {"Introspection.ParameterInfo", 3, 1, 5},
+    {"Introspection.ParameterInfoImp", 1, 1, 0},
+    {"Introspection.AttributeInfo", 1, 1, 2},
+};
+
+TEST(Records, Are_as_many_as_each_class_declares) {
+    for (const auto& [name, methods, slots, properties, events] : kTotals) {
+        SCOPED_TRACE(name);
+        const ClassRecord* const record = RuntimeFindClass(name);
+        if (record == nullptr) {
+            ADD_FAILURE() << "there is no such class";
+            continue;
+        }
+        const ClassRecord none{};
+        const ClassRecord& parent = record->parent == nullptr ? none : *record->parent;
+        EXPECT_EQ(record->method_count - parent.method_count, methods);
+        EXPECT_EQ(record->vtable_size, slots);
+        EXPECT_EQ(record->property_count - parent.property_count, properties);
+        EXPECT_EQ(record->event_count - parent.event_count, events);
+    }
+}
+
+}  // namespace
+}  // namespace tavrik::test
