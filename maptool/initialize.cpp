@@ -2,6 +2,7 @@
 
 #include "data/application.h"
 #include "data/binary_stream.h"
+#include "data/date.h"
 #include "data/dictionary.h"
 #include "data/file_type.h"
 #include "data/folder_item.h"
@@ -68,7 +69,7 @@ void initialize() {
                   _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString,
                   _VariantCString, _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean,
                   _VariantDouble, _VariantSingle, _VariantString, _VariantUInt64, _VariantInt64, _VariantInt32,
-                  _VariantUInt32, FileType,
+                  _VariantUInt32, FileType, Date,
 
                   App, Window1::Window1, MenuBar1::MenuBar1>();
 }
