@@ -8,6 +8,7 @@
 #include "data/folder_item.h"
 #include "data/pair.h"
 #include "data/streams.h"
+#include "data/thread.h"
 #include "data/variants.h"
 #include "introspection/array_info.h"
 #include "introspection/attribute_info.h"
@@ -62,7 +63,7 @@ void initialize() {
                   UnsupportedFormatException, ThreadEndException, ThreadAlreadyRunningException, RuntimeException,
                   NilObjectException, IllegalCastException, InvalidParentException,
 
-                  FolderItem, Writeable, Readable, BinaryStream, Application, RectControl, Control,
+                  Thread, FolderItem, Writeable, Readable, BinaryStream, Application, RectControl, Control,
 
                   _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
 

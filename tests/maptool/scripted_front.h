@@ -53,6 +53,7 @@ struct ScriptedFront final : front::Front {
     void quit() override { ++times_quit; }
     void pump(bool) override {}
     void post(std::function<void()> call) override { call(); }
+    void run_threads_in(std::chrono::milliseconds) override {}
     std::unique_ptr<front::WindowFace> make_window(front::WindowListener& listener) override {
         before_window();
         return std::make_unique<ShownWindow>(window, listener);

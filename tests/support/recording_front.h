@@ -17,7 +17,9 @@ public:
     RecordingFront& operator=(const RecordingFront&) = delete;
 
     std::vector<std::string> messages;
+    std::function<void()> when_message = [] {};
     int quits = 0;
+    std::vector<std::chrono::milliseconds> threads_wanted;  // the delays that the front was told
 
 private:
     class Front final : public front::Front {
@@ -28,9 +30,11 @@ private:
         void quit() override { ++record_.quits; }
         void pump(bool) override {}
         void post(std::function<void()> call) override { call(); }
+        void run_threads_in(std::chrono::milliseconds delay) override { record_.threads_wanted.push_back(delay); }
         std::unique_ptr<front::WindowFace> make_window(front::WindowListener&) override { return nullptr; }
         std::size_t show_message(const front::MessageDescription& message, front::WindowFace*) override {
             record_.messages.push_back(message.text);
+            record_.when_message();
             return message.default_button;
         }
         std::optional<std::string> choose_file(const front::FileChoice&, front::WindowFace*) override { return {}; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit/core/sanitizer.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdlib>
@@ -9,18 +11,8 @@
 namespace tavrik::core {
 namespace pool {
 
-// The sanitizers see a use after the release only if every block goes back to the system's allocator.
-#if defined(__SANITIZE_ADDRESS__)
-inline constexpr bool kUsed = false;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-inline constexpr bool kUsed = false;
-#else
-inline constexpr bool kUsed = true;
-#endif
-#else
-inline constexpr bool kUsed = true;
-#endif
+// The sanitizer sees a use after the release only if every block goes back to the system's allocator.
+inline constexpr bool kUsed = !sanitizer::kWatches;
 
 inline constexpr std::size_t kGrain = 16;
 inline constexpr std::size_t kLargest = 512;

@@ -2,6 +2,7 @@
 
 #include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
+#include "toolkit/core/scheduler.h"
 #include "toolkit/core/streams.h"
 
 #include <tavrik/exception.h>
@@ -26,6 +27,7 @@ void hand_on(Object* exception) {
         quit();
         return;
     }
+    if (is_end_of_thread(exception)) return;
     if (is(exception, "NilObjectException") && EventScope::cancelled()) return;
     if (!application_takes(exception)) RuntimeUnhandledException(exception);
 }

@@ -25,6 +25,10 @@ public:
 
     static bool inside_event();
 
+    // Each thread has events of its own: a switch of threads goes on in those of the other one.
+    static EventScope* innermost() { return innermost_; }
+    static void go_on_in(EventScope* innermost) { innermost_ = innermost; }
+
 private:
     struct Notes {
         std::string failure;

@@ -10,15 +10,16 @@
 #include <string>
 
 namespace tavrik {
+
+constinit core::Releases core::releases;
+
 namespace {
 
 // Releases nest this deep; what is to be released deeper down waits in a queue, so that a structure of any depth takes
 // constant stack.
 constexpr int kDeepestRelease = 24;
 
-int release_depth = 0;
-Object* waiting_first = nullptr;
-Object* waiting_last = nullptr;
+using core::releases;
 
 // A dead object needs no count: its place holds the link of the queue.
 void link(Object* object, Object* next) { object->count = std::bit_cast<std::intptr_t>(next); }
@@ -26,17 +27,17 @@ Object* next_of(const Object* object) { return std::bit_cast<Object*>(object->co
 
 void enqueue(Object* object) {
     link(object, nullptr);
-    if (waiting_first == nullptr) {
-        waiting_first = object;
+    if (releases.first_waiting == nullptr) {
+        releases.first_waiting = object;
     } else {
-        link(waiting_last, object);
+        link(releases.last_waiting, object);
     }
-    waiting_last = object;
+    releases.last_waiting = object;
 }
 
 Object* dequeue() {
-    Object* const object = waiting_first;
-    waiting_first = next_of(object);
+    Object* const object = releases.first_waiting;
+    releases.first_waiting = next_of(object);
     return object;
 }
 
@@ -78,13 +79,13 @@ void RuntimeDestroyObject(Object* object) noexcept {
         --state.live;
         return core::free_block(object, static_cast<std::size_t>(object->record->instance_size));
     }
-    if (release_depth == kDeepestRelease) return enqueue(object);
-    ++release_depth;
+    if (releases.depth == kDeepestRelease) return enqueue(object);
+    ++releases.depth;
     destroy(object);
-    if (release_depth == 1) {
-        while (waiting_first != nullptr) destroy(dequeue());
+    if (releases.depth == 1) {
+        while (releases.first_waiting != nullptr) destroy(dequeue());
     }
-    --release_depth;
+    --releases.depth;
 }
 
 Ref<Object> RuntimeNewObject(ClassRecord* record) {

@@ -2,6 +2,7 @@
 
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/reflection.h"
+#include "toolkit/core/scheduler.h"
 #include "toolkit/core/streams.h"
 #include "toolkit/core/window.h"
 #include "toolkit/front/choose.h"
@@ -29,6 +30,7 @@ public:
     void quit_requested() override {
         deliver([] { quit(); });
     }
+    void run_threads() override { scheduler().run_threads(); }
 };
 
 struct Program {
@@ -65,30 +67,7 @@ std::string message_of(Object* exception) {
     return std::string(view(exception->record->name)) + " was raised, and nothing in the program handled it.";
 }
 
-}  // namespace
-
-std::string program_name() {
-    std::error_code error;
-    const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? "program" : path.filename().string();
-}
-
-front::Front& front() {
-    Program& the = program();
-    if (!the.front) the.front = front::choose_front({program_name(), the.quitter});
-    return *the.front;
-}
-
-bool has_front() { return program().front != nullptr; }
-
-void use_front(std::unique_ptr<front::Front> front) {
-    program().front = std::move(front);
-    program().has_quit = false;
-}
-
-bool has_quit() { return program().has_quit; }
-
-bool quit() {
+bool quit_from_main_stack() {
     Program& the = program();
     if (the.has_quit) return true;
     if (the.app && cancel_close(the.app.object(), true)) return false;
@@ -99,9 +78,38 @@ bool quit() {
     return true;
 }
 
+}  // namespace
+
+std::string program_name() {
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? "program" : path.filename().string();
+}
+
+front::Front& front() {
+    Program& the = program();
+    if (!the.front) {
+        the.front = front::choose_front({program_name(), the.quitter});
+        scheduler().tell_new_front();
+    }
+    return *the.front;
+}
+
+bool has_front() { return program().front != nullptr; }
+
+void use_front(std::unique_ptr<front::Front> front) {
+    program().front = std::move(front);
+    program().has_quit = false;
+    scheduler().tell_new_front();
+}
+
+bool has_quit() { return program().has_quit; }
+
+bool quit() { return on_main_stack(quit_from_main_stack); }
+
 std::size_t show_message(const front::MessageDescription& message) {
     flush_all_streams();
-    return front().show_message(message, frontmost_face());
+    return on_main_stack([&] { return front().show_message(message, frontmost_face()); });
 }
 
 void tell_failure(std::string_view text) {
@@ -132,12 +140,14 @@ void RuntimeRun() {
     core::Program& program = core::program();
     if (program.app) core::deliver([&] { core::call_open(program.app.object()); });
     if (!program.has_quit) core::front().run();
+    core::scheduler().end_all();
 }
 
 void RuntimeAtExit(void (*function)()) { core::program().at_exit.push_back(function); }
 
 std::int32_t RuntimeExit() {
     core::Program& program = core::program();
+    core::scheduler().end_all();
     core::deliver([] { core::close_all_windows(core::AppIsQuitting::kNoMatterWhat); });
     core::deliver([&] { program.app = nullptr; });
     program.front = nullptr;
@@ -152,11 +162,10 @@ std::int32_t RuntimeExit() {
 
 void RuntimeUnhandledException(Object* exception) {
     if (exception == nullptr || RuntimeObjectIsa(exception, RuntimeFindClass("EndException"))) return;
+    if (core::is_end_of_thread(exception)) return;
     // Outside of an event nothing has caught it before the run loop ended.
     if (!core::EventScope::inside_event()) core::program().exit_status = 1;
     core::tell_failure(core::message_of(exception));
 }
-
-void RuntimeBackgroundTask() {}
 
 }  // namespace tavrik

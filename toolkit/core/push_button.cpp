@@ -1,6 +1,7 @@
 #include "toolkit/core/control.h"
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/reflection.h"
+#include "toolkit/core/scheduler.h"
 
 #include <tavrik/exception.h>
 #include <tavrik/push_button.h>
@@ -29,23 +30,26 @@ public:
         face_ = window.make_button(*this);
         changed();
     }
-    void detach() override { face_.reset(); }
+    void detach() override {
+        on_main_stack([this] { face_.reset(); });
+    }
 
     void changed() override {
         if (!face_) return;
-        face_->apply({.name = std::string(text_property(self(), "Name").view()),
-                      .caption = caption,
-                      .bounds = bounds,
-                      .tab_index = tab_index,
-                      .visible = visible,
-                      .enabled = enabled,
-                      .is_default = is_default,
-                      .is_cancel = is_cancel,
-                      .help = help,
-                      .style = style});
+        const front::ButtonDescription description{.name = std::string(text_property(self(), "Name").view()),
+                                                   .caption = caption,
+                                                   .bounds = bounds,
+                                                   .tab_index = tab_index,
+                                                   .visible = visible,
+                                                   .enabled = enabled,
+                                                   .is_default = is_default,
+                                                   .is_cancel = is_cancel,
+                                                   .help = help,
+                                                   .style = style};
+        on_main_stack([&] { face_->apply(description); });
     }
     void set_focus() override {
-        if (face_) face_->set_focus();
+        if (face_) on_main_stack([this] { face_->set_focus(); });
     }
 
     void push() {

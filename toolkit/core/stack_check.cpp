@@ -1,3 +1,5 @@
+#include "toolkit/core/stack_memory.h"
+
 #include <tavrik/exception.h>
 
 #include <pthread.h>
@@ -19,7 +21,7 @@ std::uintptr_t find_stack_limit() {
     const pthread_t self = pthread_self();
     const auto top = reinterpret_cast<std::uintptr_t>(pthread_get_stackaddr_np(self));
     const std::uintptr_t size = pthread_get_stacksize_np(self);
-    return top - size + std::min(kReserve, size / 4);
+    return core::stack_limit(top - size, size);
 }
 #else
 std::uintptr_t find_stack_limit() {
@@ -30,11 +32,15 @@ std::uintptr_t find_stack_limit() {
     const bool known = pthread_attr_getstack(&attributes, &bottom, &size) == 0;
     pthread_attr_destroy(&attributes);
     if (!known) return 0;
-    return reinterpret_cast<std::uintptr_t>(bottom) + std::min<std::uintptr_t>(kReserve, size / 4);
+    return core::stack_limit(reinterpret_cast<std::uintptr_t>(bottom), size);
 }
 #endif
 
 }  // namespace
+
+std::uintptr_t core::stack_limit(std::uintptr_t bottom, std::size_t size) {
+    return bottom + std::min<std::uintptr_t>(kReserve, size / 4);
+}
 
 void RuntimeStackCheck() {
     const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));

@@ -6,6 +6,7 @@
 #include "toolkit/core/menu_item.h"
 #include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
+#include "toolkit/core/scheduler.h"
 
 #include <tavrik/class_record.h>
 #include <tavrik/dictionary.h>
@@ -127,14 +128,14 @@ void WindowState::make_face() {
 }
 
 void WindowState::attach(ControlState& control) {
-    if (face_) control.attach(*face_);
+    if (face_) on_main_stack([&] { control.attach(*face_); });
 }
 
 void WindowState::show() {
     description.visible = true;
     if (!face_) {
         description.minimize_button = bool_property(self_, "MinimizeButton");
-        make_face();
+        on_main_stack([this] { make_face(); });
     }
     enable_menu_items(self_);
     changed();
@@ -146,16 +147,16 @@ void WindowState::hide() {
 }
 
 void WindowState::changed() {
-    if (face_) face_->apply(description);
+    if (face_) on_main_stack([this] { face_->apply(description); });
 }
 
 void WindowState::menus_changed() {
-    if (face_) face_->apply_menus(describe_menus(menu_bar_.object()));
+    if (face_) on_main_stack([this] { face_->apply_menus(describe_menus(menu_bar_.object())); });
 }
 
 void WindowState::drop_face() {
     for_each_control(self_, [](const Ref<Object>& control) { control_state(control.object()).detach(); });
-    face_.reset();
+    on_main_stack([this] { face_.reset(); });
 }
 
 void WindowState::close_requested() {

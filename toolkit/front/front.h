@@ -2,6 +2,7 @@
 
 #include "toolkit/front/descriptions.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -59,6 +60,8 @@ class ApplicationListener {
 public:
     // The desktop asks the whole program to end (the session ends, or a signal says so).
     virtual void quit_requested() = 0;
+    // It is time for what Front::run_threads_in() was told. Returns within a moment, as any report does.
+    virtual void run_threads() = 0;
 
 protected:
     ~ApplicationListener() = default;
@@ -75,6 +78,9 @@ public:
     virtual void pump(bool wait) = 0;
     // Runs `call` on the main thread, inside run() or pump(). The one member that any thread may call.
     virtual void post(std::function<void()> call) = 0;
+    // Calls ApplicationListener::run_threads() once, from run(), pump() or a dialog, when so much time has passed and
+    // what has happened by then is dispatched. Takes the place of what it was told before.
+    virtual void run_threads_in(std::chrono::milliseconds delay) = 0;
 
     virtual std::unique_ptr<WindowFace> make_window(WindowListener& listener) = 0;
 

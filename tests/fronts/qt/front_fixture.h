@@ -23,8 +23,10 @@ using Log = std::vector<std::string>;
 
 struct RecordingApplication final : ApplicationListener {
     void quit_requested() override { ++requests; }
+    void run_threads() override { when_threads_run(); }
 
     int requests = 0;
+    std::function<void()> when_threads_run;
 };
 
 struct RecordingWindow final : WindowListener {

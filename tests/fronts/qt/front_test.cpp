@@ -1,5 +1,6 @@
 #include "tests/fronts/qt/front_fixture.h"
 
+#include <chrono>
 #include <clocale>
 #include <thread>
 
@@ -40,6 +41,20 @@ TEST_F(QtFrontLoop, Pump_dispatches_what_has_happened_and_waits_if_told_to) {
     std::thread other([&] { front->post([&] { log += 'c'; }); });
     while (log == "ab") front->pump(true);
     other.join();
+}
+
+TEST_F(QtFrontLoop, Threads_run_when_their_time_has_come_and_leave_room_for_events) {
+    int runs = 0;
+    bool posted_call_came = false;
+    application.when_threads_run = [&] {
+        if (++runs == 2) front->post([&] { posted_call_came = true; });
+        if (posted_call_came && runs >= 4) return front->quit();
+        front->run_threads_in(std::chrono::milliseconds(runs == 1 ? 5 : 0));
+    };
+    front->run_threads_in({});
+    front->run();
+    EXPECT_TRUE(posted_call_came);
+    EXPECT_GE(runs, 4);
 }
 
 TEST_F(QtFrontLoop, The_desktops_quit_asks_and_does_not_end_the_program_itself) {

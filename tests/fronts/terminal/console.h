@@ -76,8 +76,10 @@ struct FakeWindow final : WindowListener {
 
 struct FakeApplication final : ApplicationListener {
     void quit_requested() override { when_quit_requested(); }
+    void run_threads() override { when_threads_run(); }
 
     std::function<void()> when_quit_requested;
+    std::function<void()> when_threads_run;
 };
 
 // One window, "maptool", with File/Quit and the buttons "Load" and "Null", the second disabled.

@@ -39,6 +39,9 @@ QtFront::QtFront(const Start& start)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // QApplication::exec() would do this.
     QAccessible::setRootObject(&application_);
+    threads_.setSingleShot(true);
+    QObject::connect(&threads_, &QTimer::timeout, &threads_,
+                     [&listener = start.application] { listener.run_threads(); });
 }
 
 QtFront::~QtFront() {

@@ -5,6 +5,7 @@
 #include "toolkit/fronts/qt/quit_requests.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <array>
 #include <string>
@@ -24,6 +25,7 @@ public:
     void quit() override;
     void pump(bool wait) override;
     void post(std::function<void()> call) override;
+    void run_threads_in(std::chrono::milliseconds delay) override { threads_.start(delay); }
 
     std::unique_ptr<WindowFace> make_window(WindowListener& listener) override;
 
@@ -43,6 +45,7 @@ private:
     QApplication application_;
     QuitRequests quit_requests_;
     QObject posted_calls_;
+    QTimer threads_;
     OpenDialogs dialogs_;
     std::vector<QEventLoop*> loops_;
     bool quitting_ = false;  // from quit() until run() has ended

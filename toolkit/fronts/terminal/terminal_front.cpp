@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
+#include <limits>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -46,6 +48,7 @@ public:
     void quit() override;
     void pump(bool wait) override { turn(wait ? Wait::kForSomething : Wait::kNo, quitting_); }
     void post(std::function<void()> call) override { posted_.post(std::move(call)); }
+    void run_threads_in(std::chrono::milliseconds delay) override { threads_run_at_ = Clock::now() + delay; }
 
     std::unique_ptr<WindowFace> make_window(WindowListener& listener) override;
     std::size_t show_message(const MessageDescription& message, WindowFace* over) override;
@@ -54,7 +57,11 @@ public:
 private:
     class Asking;
 
+    using Clock = std::chrono::steady_clock;
+
     void turn(Wait wait, const bool& over);
+    void run_due_threads();
+    int longest_wait_ms() const;
     void await(Wait wait);
     void ask(Question& question);
     Question* open_question() const;
@@ -76,6 +83,7 @@ private:
     int output_;
     PostedCalls posted_;
     std::shared_ptr<WindowStack> windows_ = std::make_shared<WindowStack>();
+    std::optional<Clock::time_point> threads_run_at_;
     std::vector<Question*> questions_;  // the innermost last
     std::optional<std::string> shown_;  // the screen printed last, unless something else came before it since
     bool opening_menus_ = false;
@@ -111,10 +119,12 @@ void TerminalFront::quit() {
     for (Question* question : questions_) question->end();
 }
 
-// One turn of a loop that goes on until `over`: what was posted, the screen, and then at most one line, so that
-// every line meets the screen that the one before it left behind.
+// One turn of a loop that goes on until `over`: what was posted, the threads, the screen, and then at most one line, so
+// that every line meets the screen that the one before it left behind.
 void TerminalFront::turn(Wait wait, const bool& over) {
     const bool has_run = posted_.run();
+    if (over) return;
+    run_due_threads();
     if (over) return;
     refresh();
     if (over) return;
@@ -132,12 +142,25 @@ void TerminalFront::turn(Wait wait, const bool& over) {
 void TerminalFront::await(Wait wait) {
     while (!input_.ready()) {
         std::array<pollfd, 2> watched{{{input_.descriptor(), POLLIN, 0}, {posted_.descriptor(), POLLIN, 0}}};
-        const int changed = ::poll(watched.data(), watched.size(), wait == Wait::kNo ? 0 : -1);
+        const int changed = ::poll(watched.data(), watched.size(), wait == Wait::kNo ? 0 : longest_wait_ms());
         if (changed < 0 && errno == EINTR) continue;
         // Whatever poll() has against the input, reading it tells.
         if (changed > 0 && watched[0].revents != 0) input_.fill();
-        if (wait == Wait::kNo || changed < 0 || watched[1].revents != 0) return;
+        if (wait == Wait::kNo || changed <= 0 || watched[1].revents != 0) return;
     }
+}
+
+void TerminalFront::run_due_threads() {
+    if (!threads_run_at_ || Clock::now() < *threads_run_at_) return;
+    threads_run_at_.reset();
+    application_.run_threads();
+}
+
+// Until the threads are due; -1 is for ever.
+int TerminalFront::longest_wait_ms() const {
+    if (!threads_run_at_) return -1;
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*threads_run_at_ - Clock::now()).count();
+    return static_cast<int>(std::clamp<std::int64_t>(left, 0, std::numeric_limits<int>::max()));
 }
 
 std::unique_ptr<WindowFace> TerminalFront::make_window(WindowListener& listener) {

@@ -34,8 +34,16 @@ TAVRIK_API void RuntimeUnlockObject(Object* object);
 // Locks `new_object`, then unlocks `old_object`. They may be the same.
 TAVRIK_API void RuntimeLockUnlockObjects(Object* new_object, Object* old_object);
 
-// The end of a loop's pass: a chance to yield to other threads.
-TAVRIK_API void RuntimeBackgroundTask();
+// How many threads want turns. While there are none, the end of a pass costs no more than this look.
+extern TAVRIK_API constinit std::int32_t runtime_threads_under_way;
+TAVRIK_API void RuntimeShareTime();
+
+// The end of a loop's pass: lets other threads have their turns once this one's time is over. Raises
+// ThreadEndException in a thread that was killed meanwhile.
+inline void RuntimeBackgroundTask() {
+    if (runtime_threads_under_way != 0) [[unlikely]]
+        RuntimeShareTime();
+}
 
 // Applies a packed property string to an object, entry by entry. Raises UnsupportedFormatException, with a message
 // that names the entry, at the first entry that is malformed; nothing behind it is applied.
