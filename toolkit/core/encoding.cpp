@@ -14,20 +14,8 @@ namespace {
 
 constexpr EncodingRow kUtf8Row{kEncodingUtf8, "UTF-8", "", Coding::kUtf8};
 
-constexpr char32_t kReplacement = 0xFFFD;
 constexpr char32_t kMark = 0xFEFF;
 constexpr char kLacking = '?';
-
-constexpr std::uint32_t byte_at(std::string_view bytes, std::size_t at) {
-    return static_cast<unsigned char>(bytes[at]);
-}
-
-void append_bytes(std::string& to, std::initializer_list<std::uint32_t> bytes) {
-    for (const std::uint32_t byte : bytes) to += static_cast<char>(static_cast<unsigned char>(byte));
-}
-
-constexpr bool is_high_surrogate(char32_t c) { return c >= 0xD800 && c < 0xDC00; }
-constexpr bool is_low_surrogate(char32_t c) { return c >= 0xDC00 && c < 0xE000; }
 
 std::size_t ascii_end(std::string_view bytes, std::size_t from) {
     constexpr std::uint64_t kHighBits = 0x8080808080808080U;
@@ -40,48 +28,6 @@ std::size_t ascii_end(std::string_view bytes, std::size_t from) {
     return from;
 }
 
-// What stands at the front of some bytes: a character, kReplacement for what is none, or nothing (length 0) because
-// the sequence is cut.
-struct Taken {
-    char32_t character;
-    std::size_t length;
-};
-
-// What isn't UTF-8 is passed over as far as it could have become a character.
-Taken take_utf8(std::string_view bytes) {
-    const std::uint32_t lead = byte_at(bytes, 0);
-    std::uint32_t least = 0x80;
-    std::uint32_t most = 0xBF;
-    std::size_t length = 0;
-    char32_t character = 0;
-    if (lead < 0x80) return {lead, 1};
-    if (lead >= 0xC2 && lead <= 0xDF) {
-        length = 2;
-        character = lead & 0x1F;
-    } else if (lead >= 0xE0 && lead <= 0xEF) {
-        length = 3;
-        character = lead & 0x0F;
-        if (lead == 0xE0) least = 0xA0;
-        if (lead == 0xED) most = 0x9F;
-    } else if (lead >= 0xF0 && lead <= 0xF4) {
-        length = 4;
-        character = lead & 0x07;
-        if (lead == 0xF0) least = 0x90;
-        if (lead == 0xF4) most = 0x8F;
-    } else {
-        return {kReplacement, 1};
-    }
-    for (std::size_t at = 1; at < length; ++at) {
-        if (at == bytes.size()) return {0, 0};
-        const std::uint32_t next = byte_at(bytes, at);
-        if (next < least || next > most) return {kReplacement, at};
-        character = character << 6 | (next & 0x3F);
-        least = 0x80;
-        most = 0xBF;
-    }
-    return {character, length};
-}
-
 enum class Order { kBig, kLittle };
 
 template <Order Bytes>
@@ -91,7 +37,7 @@ char32_t unit16(std::string_view bytes, std::size_t at) {
 }
 
 template <Order Bytes>
-Taken take_utf16(std::string_view bytes) {
+FrontCharacter take_utf16(std::string_view bytes) {
     if (bytes.size() < 2) return {0, 0};
     const char32_t first = unit16<Bytes>(bytes, 0);
     if (is_low_surrogate(first)) return {kReplacement, 2};
@@ -99,11 +45,11 @@ Taken take_utf16(std::string_view bytes) {
     if (bytes.size() < 4) return {0, 0};
     const char32_t second = unit16<Bytes>(bytes, 2);
     if (!is_low_surrogate(second)) return {kReplacement, 2};
-    return {0x10000 + ((first - 0xD800) << 10 | (second - 0xDC00)), 4};
+    return {from_surrogates(first, second), 4};
 }
 
 template <Order Bytes>
-Taken take_utf32(std::string_view bytes) {
+FrontCharacter take_utf32(std::string_view bytes) {
     if (bytes.size() < 4) return {0, 0};
     const char32_t high = unit16<Bytes>(bytes, Bytes == Order::kBig ? 0 : 2);
     const char32_t character = high << 16 | unit16<Bytes>(bytes, Bytes == Order::kBig ? 2 : 0);
@@ -114,7 +60,7 @@ template <auto Take>
 std::size_t take_units(std::string_view bytes, std::string& text) {
     std::size_t at = 0;
     while (at < bytes.size()) {
-        const Taken taken = Take(bytes.substr(at));
+        const FrontCharacter taken = Take(bytes.substr(at));
         if (taken.length == 0) break;
         append_utf8(text, taken.character);
         at += taken.length;
@@ -127,7 +73,7 @@ std::size_t take_valid_utf8(std::string_view bytes, std::string& text) {
     std::size_t copied = 0;
     std::size_t at = ascii_end(bytes, 0);
     while (at < bytes.size()) {
-        const Taken taken = take_utf8(bytes.substr(at));
+        const FrontCharacter taken = take_utf8(bytes.substr(at));
         if (taken.length == 0) break;
         if (taken.character == kReplacement) {
             text.append(bytes, copied, at - copied).append(kReplacementText);
@@ -194,7 +140,8 @@ void flush(const Iconv& iconv, std::string& result) {
 }
 
 // The mark, if there is one, tells the order and is no part of the text.
-Coding order_by_mark(std::string_view& bytes, Coding big, Coding little, Taken if_big, Taken if_little) {
+Coding order_by_mark(std::string_view& bytes, Coding big, Coding little, FrontCharacter if_big,
+                     FrontCharacter if_little) {
     const bool is_little = if_little.character == kMark;
     if (is_little || if_big.character == kMark) bytes.remove_prefix(if_big.length);
     return is_little ? little : big;
@@ -248,14 +195,6 @@ Iconv need(Iconv iconv, const EncodingRow& encoding) {
 }
 
 }  // namespace
-
-void append_utf8(std::string& text, char32_t code_point) {
-    const std::uint32_t c = code_point;
-    if (c < 0x80) return append_bytes(text, {c});
-    if (c < 0x800) return append_bytes(text, {0xC0 | c >> 6, 0x80 | (c & 0x3F)});
-    if (c < 0x10000) return append_bytes(text, {0xE0 | c >> 12, 0x80 | (c >> 6 & 0x3F), 0x80 | (c & 0x3F)});
-    append_bytes(text, {0xF0 | c >> 18, 0x80 | (c >> 12 & 0x3F), 0x80 | (c >> 6 & 0x3F), 0x80 | (c & 0x3F)});
-}
 
 Decoder::Decoder(const EncodingRow& encoding) : encoding_(encoding.coding), coding_(encoding.coding) {
     if (coding_ == Coding::kIconv) iconv_ = need(open_from(encoding), encoding);
@@ -336,7 +275,7 @@ void Encoder::put(std::string& bytes) {
         put_iconv(bytes);
     } else {
         for (std::string_view rest = valid_; !rest.empty();) {
-            const Taken taken = take_utf8(rest);
+            const FrontCharacter taken = take_utf8(rest);
             append(bytes, taken.character, coding_);
             rest.remove_prefix(taken.length);
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/core/encoding_table.h"
+#include "toolkit/core/unicode.h"
 
 #include <tavrik/string.h>
 
@@ -8,9 +9,6 @@
 #include <string_view>
 
 namespace tavrik::core {
-
-// U+FFFD, which stands for what is no character.
-inline constexpr std::string_view kReplacementText = "\xEF\xBF\xBD";
 
 // Turns the bytes of an encoding into UTF-8, piece by piece: a sequence may be cut between two pieces. What is no
 // character becomes U+FFFD, and the next byte that can begin one is read as such.
@@ -54,12 +52,6 @@ private:
     Decoder utf8_;
     std::string valid_;  // the piece, as UTF-8 of whole characters
 };
-
-// Whether a number is that of a character in Unicode.
-constexpr bool is_code_point(std::uint32_t number) {
-    return number < 0xD800 || (number >= 0xE000 && number <= 0x10FFFF);
-}
-void append_utf8(std::string& text, char32_t code_point);
 
 // A whole text.
 std::string decode_all(const EncodingRow& encoding, std::string_view bytes);

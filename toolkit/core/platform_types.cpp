@@ -1,6 +1,6 @@
 #include "toolkit/core/platform_types.h"
 
-#include "toolkit/core/utf8.h"
+#include "toolkit/core/unicode.h"
 
 #include <tavrik/exception.h>
 

@@ -3,7 +3,7 @@
 #include "toolkit/core/allocator.h"
 #include "toolkit/core/platform_types.h"
 #include "toolkit/core/reflection.h"
-#include "toolkit/core/utf8.h"
+#include "toolkit/core/unicode.h"
 
 #include <tavrik/exception.h>
 

@@ -1,7 +1,7 @@
 #include "toolkit/core/number_text.h"
 
 #include "toolkit/core/platform_types.h"
-#include "toolkit/core/utf8.h"
+#include "toolkit/core/unicode.h"
 
 #include <gtest/gtest.h>
 
