@@ -6,7 +6,9 @@
 #include "data/dictionary.h"
 #include "data/file_type.h"
 #include "data/folder_item.h"
+#include "data/folder_item_dialog.h"
 #include "data/memory_block.h"
+#include "data/open_dialog.h"
 #include "data/pair.h"
 #include "data/streams.h"
 #include "data/text_encoding.h"
@@ -48,33 +50,34 @@ void build_classes() {
 void initialize() {
     build_classes<Window>();
     _WindowSupport::Windows__Init();
-    build_classes<
-        Pair, MemoryBlock, Date, Dictionary,
+    build_classes<Pair, MemoryBlock, Date, Dictionary,
 
-        Introspection::ArrayInfo, Introspection::MemberInfo, Introspection::TypeInfo, Introspection::ValueTypeInfo,
-        Introspection::ClassInfo, Introspection::PrimitiveTypeInfo, Introspection::PointerTypeInfo,
-        Introspection::StructureInfo, Introspection::EnumInfo, Introspection::VariantInfo, Introspection::StringInfo,
-        Introspection::PropertyInfo, Introspection::PropertyInfoImp, Introspection::MethodBase,
-        Introspection::MethodInfo, Introspection::MethodInfoImp, Introspection::ParameterInfo,
-        Introspection::ParameterInfoImp, Introspection::ConstructorInfo, Introspection::ConstructorInfoImp,
-        Introspection::AttributeInfo,
+                  Introspection::ArrayInfo, Introspection::MemberInfo, Introspection::TypeInfo,
+                  Introspection::ValueTypeInfo, Introspection::ClassInfo, Introspection::PrimitiveTypeInfo,
+                  Introspection::PointerTypeInfo, Introspection::StructureInfo, Introspection::EnumInfo,
+                  Introspection::VariantInfo, Introspection::StringInfo, Introspection::PropertyInfo,
+                  Introspection::PropertyInfoImp, Introspection::MethodBase, Introspection::MethodInfo,
+                  Introspection::MethodInfoImp, Introspection::ParameterInfo, Introspection::ParameterInfoImp,
+                  Introspection::ConstructorInfo, Introspection::ConstructorInfoImp, Introspection::AttributeInfo,
 
-        MenuBar, MenuItem, QuitMenuItem,
+                  MenuBar, MenuItem, QuitMenuItem,
 
-        EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException, OutOfBoundsException,
-        OutOfMemoryException, ServiceNotAvailableException, StackOverflowException, UnsupportedFormatException,
-        ThreadEndException, ThreadAlreadyRunningException, RuntimeException, NilObjectException, IllegalCastException,
-        InvalidParentException,
+                  EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException,
+                  OutOfBoundsException, OutOfMemoryException, ServiceNotAvailableException, StackOverflowException,
+                  UnsupportedFormatException, ThreadEndException, ThreadAlreadyRunningException, RuntimeException,
+                  NilObjectException, IllegalCastException, InvalidParentException,
 
-        Thread, FolderItem, Writeable, Readable, BinaryStream, TextEncoding, Application, RectControl, Control,
+                  Thread, FolderItem, Writeable, Readable, BinaryStream, TextEncoding, Application, OpenDialog,
+                  FolderItemDialog, RectControl, Control,
 
-        _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
+                  _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
 
-        _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString, _VariantCString,
-        _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean, _VariantDouble,
-        _VariantSingle, _VariantString, _VariantUInt64, _VariantInt64, _VariantInt32, _VariantUInt32, FileType,
+                  _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString,
+                  _VariantCString, _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean,
+                  _VariantDouble, _VariantSingle, _VariantString, _VariantUInt64, _VariantInt64, _VariantInt32,
+                  _VariantUInt32, FileType,
 
-        App, Window1::Window1, MenuBar1::MenuBar1>();
+                  App, Window1::Window1, MenuBar1::MenuBar1>();
 }
 
 void finalize() {

@@ -201,16 +201,12 @@ private:
     void fill_properties() {
         next_property_ = record_.properties + (parent_ == nullptr ? 0 : parent_->property_count);
         first_own_property_ = next_property_;
-        for (const FieldRow& row : declared_.fields) {
-            PropertyRecord& property = add_property(row.name, row.type_code, row.flags);
-            if ((row.flags & kShared) != 0) continue;
-            property.parameter = row.offset();
-            property.getter = row.getter();
-            property.setter = row.setter();
-            property.read_invoker = row.read_invoker();
-            property.write_invoker = row.write_invoker();
-        }
+        for (const FieldRow& row : declared_.fields) fill_field(row);
         for (const PropertyRow& row : declared_.properties) {
+            if (row.field != nullptr) {
+                fill_field(*row.field);
+                continue;
+            }
             const std::int32_t writable = row.setter.function == nullptr ? 0 : kWritable;
             PropertyRecord& property = add_property(row.name, row.type_code, kPublic | writable);
             if (row.getter.function != nullptr) {
@@ -222,6 +218,16 @@ private:
                 property.write_invoker = row.setter.property_invoker();
             }
         }
+    }
+
+    void fill_field(const FieldRow& row) {
+        PropertyRecord& property = add_property(row.name, row.type_code, row.flags);
+        if ((row.flags & kShared) != 0) return;
+        property.parameter = row.offset();
+        property.getter = row.getter();
+        property.setter = row.setter();
+        property.read_invoker = row.read_invoker();
+        property.write_invoker = row.write_invoker();
     }
 
     PropertyRecord& add_property(const char* name, StringRecord* type_code, std::int32_t flags) {

@@ -460,6 +460,15 @@ constexpr PropertyRow stored(const char* name) {
             .release = &Entry::release};
 }
 
+// A field with a record of its own that stands among the properties. The row is a constant of the source file.
+constexpr PropertyRow among_properties(const FieldRow& row) {
+    return {.name = row.name,
+            .type_code = row.type_code,
+            .is_counted = row.is_counted,
+            .release = row.release,
+            .field = &row};
+}
+
 // ---- Events and interfaces
 
 // An event that the class adds.

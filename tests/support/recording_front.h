@@ -19,9 +19,19 @@ public:
     std::vector<std::string> messages;
     std::function<void()> when_message = [] {};
     int quits = 0;
+    std::vector<front::FileChoice> choices;  // what the file dialogs were told, and how each is answered
+    std::function<std::optional<std::string>(front::WindowFace* over)> when_choice = [](auto*) { return std::nullopt; };
     std::vector<std::chrono::milliseconds> threads_wanted;  // the delays that the front was told
 
 private:
+    // Can be shown, and shows nothing.
+    class Window final : public front::WindowFace {
+        void apply(const front::WindowDescription&) override {}
+        void apply_menus(std::span<const front::MenuDescription>) override {}
+        std::unique_ptr<front::ButtonFace> make_button(front::ButtonListener&) override { return nullptr; }
+        void bring_to_front() override {}
+    };
+
     class Front final : public front::Front {
     public:
         explicit Front(RecordingFront& record) : record_(record) {}
@@ -31,13 +41,18 @@ private:
         void pump(bool) override {}
         void post(std::function<void()> call) override { call(); }
         void run_threads_in(std::chrono::milliseconds delay) override { record_.threads_wanted.push_back(delay); }
-        std::unique_ptr<front::WindowFace> make_window(front::WindowListener&) override { return nullptr; }
+        std::unique_ptr<front::WindowFace> make_window(front::WindowListener&) override {
+            return std::make_unique<Window>();
+        }
         std::size_t show_message(const front::MessageDescription& message, front::WindowFace*) override {
             record_.messages.push_back(message.text);
             record_.when_message();
             return message.default_button;
         }
-        std::optional<std::string> choose_file(const front::FileChoice&, front::WindowFace*) override { return {}; }
+        std::optional<std::string> choose_file(const front::FileChoice& choice, front::WindowFace* over) override {
+            record_.choices.push_back(choice);
+            return record_.when_choice(over);
+        }
 
     private:
         RecordingFront& record_;

@@ -1,9 +1,6 @@
-#include "toolkit/core/event_scope.h"
+#include "toolkit/core/file_choice.h"
 #include "toolkit/core/file_type.h"
-#include "toolkit/core/folder_item.h"
 #include "toolkit/core/program.h"
-#include "toolkit/core/scheduler.h"
-#include "toolkit/core/streams.h"
 #include "toolkit/core/window.h"
 
 #include <tavrik/dialogs.h>
@@ -16,14 +13,9 @@ void RuntimeMsgBox(const String& text) {
 }
 
 Ref<Object> RuntimeGetOpenFolderItem(const String& filter) {
-    core::flush_all_streams();
     front::FileChoice choice;
     choice.filters = core::filters_for(filter.view());
-    std::optional<std::string> path =
-        core::on_main_stack([&] { return core::front().choose_file(choice, core::frontmost_face()); });
-    if (path) return core::make_folder_item(std::move(*path));
-    core::EventScope::note_cancel();
-    return nullptr;
+    return core::choose_item(choice, core::frontmost_face);
 }
 
 }  // namespace tavrik

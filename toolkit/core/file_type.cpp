@@ -48,6 +48,21 @@ std::vector<std::string> parse_extensions(std::string_view list) {
     return extensions;
 }
 
+// Selects what any of the filters does. A filter without extensions selects all files, and so does one with it.
+front::FileFilter any_of(const std::vector<front::FileFilter>& filters) {
+    front::FileFilter any;
+    for (const front::FileFilter& filter : filters) {
+        any.label += (any.label.empty() ? "" : ", ") + filter.label;
+        for (const std::string& extension : filter.extensions) {
+            if (std::ranges::find(any.extensions, extension) == any.extensions.end())
+                any.extensions.push_back(extension);
+        }
+    }
+    const bool takes_all = std::ranges::any_of(filters, [](const auto& filter) { return filter.extensions.empty(); });
+    if (takes_all) any.extensions.clear();
+    return any;
+}
+
 }  // namespace
 
 namespace core {
@@ -56,8 +71,11 @@ std::vector<front::FileFilter> filters_for(std::string_view filter) {
     std::vector<front::FileFilter> filters;
     for_each_field(filter, [&](std::string_view name) {
         const auto type = find_type(name);
-        if (type != registered_types().end()) filters.push_back({type->name, type->extensions});
+        if (type == registered_types().end()) return;
+        if (std::ranges::find(filters, name, &front::FileFilter::label) != filters.end()) return;
+        filters.push_back({type->name, type->extensions});
     });
+    if (filters.size() > 1) filters.insert(filters.begin(), any_of(filters));
     return filters;
 }
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -95,13 +96,22 @@ struct FileFilter {
     std::vector<std::string> extensions;  // without a dot; any letter case matches
 };
 
+struct Point {
+    int left = 0;
+    int top = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
 struct FileChoice {
     std::string title;
-    std::string prompt;
+    std::string prompt;          // what is asked, beside the title
     std::string action_caption;  // "" : the platform's own word
     std::string cancel_caption;
-    std::string initial_folder;       // path as bytes
+    std::string suggested_name;       // of a file, as bytes; "" for none
+    std::string initial_folder;       // path as bytes; "" : where the platform begins
     std::vector<FileFilter> filters;  // offered in order; a front adds "All files" behind them
+    std::optional<Point> position;    // on the screen; the platform's choice without one
 };
 
 }  // namespace tavrik::front

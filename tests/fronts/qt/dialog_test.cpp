@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -183,6 +184,57 @@ TEST_F(QtFileChoice, It_opens_as_told) {
         EXPECT_EQ(dialog.labelText(QFileDialog::Reject), QStringLiteral("Leave"));
         EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
         EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
+        dialog.reject();
+    });
+}
+
+TEST_F(QtFileChoice, The_prompt_stands_above_the_files_as_it_is_written) {
+    choice.prompt = "Which <b>map</b>?";
+    show();
+    answered_by([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Load a map"));
+        const QWidget* const prompt = dialog.layout()->menuBar();
+        ASSERT_TRUE(prompt && prompt->isVisible());
+        EXPECT_EQ(qobject_cast<const QLabel*>(prompt)->text(), QStringLiteral("Which <b>map</b>?"));
+        EXPECT_EQ(qobject_cast<const QLabel*>(prompt)->textFormat(), Qt::PlainText);
+        for (const QWidget* other : dialog.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            const bool is_below = other->y() > prompt->geometry().bottom();
+            EXPECT_TRUE(other == prompt || !other->isVisible() || is_below) << other->objectName().toStdString();
+        }
+        dialog.reject();
+    });
+}
+
+TEST_F(QtFileChoice, A_suggested_name_needs_no_more_than_Return) {
+    choice.suggested_name = "hill.map";
+    show();
+    EXPECT_EQ(answered_by([](QFileDialog& dialog) {
+                  QTest::keyClick(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
+              }),
+              path("hill.map"));
+}
+
+TEST_F(QtFileChoice, It_opens_where_it_is_told_if_a_screen_shows_that_place) {
+    show();
+    choice.position = Point{.left = 40, .top = 30};
+    answered_by([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.pos(), QPoint(40, 30));
+        dialog.reject();
+    });
+    choice.position = Point{.left = -30'000, .top = 30};
+    answered_by([](QFileDialog& dialog) {
+        EXPECT_TRUE(QGuiApplication::screenAt(dialog.pos()));
+        dialog.reject();
+    });
+}
+
+TEST_F(QtFileChoice, The_first_of_several_types_lists_the_files_of_all) {
+    choice.filters = {{"Maps, Texts", {"map", "txt"}}, {"Maps", {"map"}}, {"Texts", {"txt"}}};
+    show();
+    answered_by([](QFileDialog& dialog) {
+        EXPECT_EQ(listed(dialog, 3).last(), QStringLiteral("VALLEY.MAP"));
+        dialog.selectNameFilter(dialog.nameFilters().at(2));
+        EXPECT_EQ(listed(dialog, 1), QStringList{QStringLiteral("notes.txt")});
         dialog.reject();
     });
 }

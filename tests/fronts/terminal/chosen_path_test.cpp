@@ -42,5 +42,15 @@ TEST(ChosenPath, A_CR_that_belongs_to_no_file_name_ends_the_line) {
     }
 }
 
+TEST(ChosenPath, A_path_that_is_turned_down_is_asked_for_again_without_the_title) {
+    const test::TemporaryFolder folder;
+    const FileChoice choice{.title = "Open", .action_caption = "Load", .initial_folder = folder.path()};
+    FileQuestion question(choice);
+    EXPECT_EQ(question.take("valley.map"), folder.file("valley.map") +
+                                               " can't be chosen: No such file or directory\n"
+                                               "Load: path, or an empty line to cancel:\n");
+    EXPECT_FALSE(question.ended());
+}
+
 }  // namespace
 }  // namespace tavrik::front::terminal

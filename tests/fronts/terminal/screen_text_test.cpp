@@ -56,5 +56,11 @@ TEST(ScreenText, A_file_choice_shows_what_is_asked) {
               "Path, or an empty line to cancel:\n");
 }
 
+TEST(ScreenText, A_file_choice_shows_its_captions_and_the_suggested_name) {
+    const FileChoice choice{.action_caption = "&Load", .cancel_caption = "Lea&ve", .suggested_name = "a\n.map"};
+    EXPECT_EQ(file_choice_text(choice), "Suggested: a\\n.map\nLoad: path, or an empty line for Leave:\n");
+    EXPECT_EQ(path_prompt({.action_caption = "Load"}), "Load: path, or an empty line to cancel:\n");
+}
+
 }  // namespace
 }  // namespace tavrik::front::terminal

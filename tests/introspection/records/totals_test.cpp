@@ -24,6 +24,8 @@ constexpr Totals kTotals[] = {
     {"Date", 34, 4, 18},
     {"Thread", 13, 6, 4, 1},
     {"TextEncoding", 8, 3, 5},
+    {"FolderItemDialog", 25, 3, 11},
+    {"OpenDialog", 1, 3, 0},
     {"_VariantBoolean", 10, 10, 0},
     {"_VariantColor", 10, 10, 0},
     {"_VariantCurrency", 10, 10, 0},

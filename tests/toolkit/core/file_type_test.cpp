@@ -83,9 +83,19 @@ TEST_F(FileTypes, Add_up_in_the_order_of_the_sum) {
 }
 
 TEST_F(FileTypes, A_filter_selects_the_registered_types_that_it_names) {
-    EXPECT_EQ(selected(map_->Operator_Add(bsp_).view()), "map: map|bsp: bsp|");
-    EXPECT_EQ(selected("bsp;unknown;map"), "bsp: bsp|map: map|");
+    EXPECT_EQ(selected(map_->Operator_Add(bsp_).view()), "map, bsp: map bsp|map: map|bsp: bsp|");
+    EXPECT_EQ(selected("bsp;unknown;map"), "bsp, map: bsp map|bsp: bsp|map: map|");
+    EXPECT_EQ(selected("map;map"), "map: map|") << "a type named twice is one choice";
     for (const char* none : {"", ";", "Map"}) EXPECT_EQ(selected(none), "") << none;
+}
+
+TEST_F(FileTypes, The_choice_of_several_types_takes_what_any_of_them_takes) {
+    map_->set_Extensions("map;old"_s);
+    bsp_->set_Extensions("bsp;old"_s);
+    EXPECT_EQ(selected(map_->Operator_Add(bsp_).view()), "map, bsp: map old bsp|map: map old|bsp: bsp old|");
+    bsp_->set_Extensions(String());
+    EXPECT_EQ(selected(map_->Operator_Add(bsp_).view()), "map, bsp:|map: map old|bsp:|")
+        << "no extensions stand for all files";
 }
 
 }  // namespace

@@ -5,7 +5,12 @@
 #include "toolkit/fronts/qt/text.h"
 
 #include <QFileDialog>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
+#include <QScreen>
+#include <QStyle>
 
 #include <filesystem>
 
@@ -48,11 +53,35 @@ private:
     std::optional<std::string> typed_path_;
 };
 
-void set_captions(QFileDialog& dialog, const FileChoice& choice) {
-    const std::string& title = choice.title.empty() ? choice.prompt : choice.title;
-    if (!title.empty()) dialog.setWindowTitle(to_qt(title));
+// Above all else in the dialog, which has no place for it.
+void add_prompt(QFileDialog& dialog, const std::string& prompt) {
+    auto* const label = new QLabel(to_qt(prompt), &dialog);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setMargin(dialog.style()->pixelMetric(QStyle::PM_LayoutTopMargin, nullptr, &dialog));
+    dialog.layout()->setMenuBar(label);
+}
+
+// A platform's own dialog has no layout here: its title has to say everything.
+void set_texts(QFileDialog& dialog, const FileChoice& choice) {
+    QStringList title;
+    if (!choice.title.empty()) title << to_qt(choice.title);
+    if (!choice.prompt.empty()) {
+        if (dialog.layout()) {
+            add_prompt(dialog, choice.prompt);
+        } else {
+            title << to_qt(choice.prompt).simplified();
+        }
+    }
+    if (!title.isEmpty()) dialog.setWindowTitle(title.join(QStringLiteral(": ")));
     if (!choice.action_caption.empty()) dialog.setLabelText(QFileDialog::Accept, to_qt(choice.action_caption));
     if (!choice.cancel_caption.empty()) dialog.setLabelText(QFileDialog::Reject, to_qt(choice.cancel_caption));
+}
+
+// A place that no screen shows any more would leave the program waiting for a dialog that nobody sees.
+void place(QFileDialog& dialog, const Point& position) {
+    const QPoint place(position.left, position.top);
+    if (QGuiApplication::screenAt(place)) dialog.move(place);
 }
 
 }  // namespace
@@ -64,7 +93,9 @@ std::optional<std::string> choose_file(OpenDialogs& dialogs, const FileChoice& c
     dialog->setSupportedSchemes({QStringLiteral("file")});
     dialog->setNameFilters(to_name_filters(choice.filters));
     if (!choice.initial_folder.empty()) dialog->setDirectoryUrl(to_url(choice.initial_folder));
-    set_captions(*dialog, choice);
+    if (!choice.suggested_name.empty()) dialog->selectFile(to_qt(choice.suggested_name));
+    set_texts(*dialog, choice);
+    if (choice.position) place(*dialog, *choice.position);
 
     dialogs.run(*dialog);
 

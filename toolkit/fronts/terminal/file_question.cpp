@@ -23,7 +23,7 @@ std::string FileQuestion::take(std::string line) {
     }
     std::string path = path_of(line);
     const std::string refusal = refusal_of(path);
-    if (!refusal.empty()) return printable(path) + " can't be chosen: " + refusal + '\n' + kPathPrompt;
+    if (!refusal.empty()) return printable(path) + " can't be chosen: " + refusal + '\n' + path_prompt(choice_);
 
     chosen_ = std::move(path);
     end();

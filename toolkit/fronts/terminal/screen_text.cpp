@@ -91,7 +91,16 @@ std::string file_choice_text(const FileChoice& choice) {
         text += "All files\n";
     }
     if (!choice.initial_folder.empty()) text += "Folder: " + printable(choice.initial_folder) + '\n';
-    return text + kPathPrompt;
+    if (!choice.suggested_name.empty()) text += "Suggested: " + printable(choice.suggested_name) + '\n';
+    return text + path_prompt(choice);
+}
+
+// "Load: path, or an empty line for Leave:"
+std::string path_prompt(const FileChoice& choice) {
+    const std::string action = printed_caption(choice.action_caption);
+    const std::string cancel = printed_caption(choice.cancel_caption);
+    return (action.empty() ? "Path" : action + ": path") + ", or an empty line " +
+           (cancel.empty() ? "to cancel" : "for " + cancel) + ":\n";
 }
 
 }  // namespace tavrik::front::terminal

@@ -12,6 +12,6 @@ std::string message_text(const MessageDescription& message);
 std::string file_choice_text(const FileChoice& choice);
 
 // The last line of file_choice_text(), which also stands behind the reason why a path was turned down.
-inline constexpr const char* kPathPrompt = "Path, or an empty line to cancel:\n";
+std::string path_prompt(const FileChoice& choice);
 
 }  // namespace tavrik::front::terminal
