@@ -38,15 +38,13 @@ Ref<Array> viewed_array(Array* array, ClassRecord*& found, const StringRecord* c
 
 template <class T>
 T unbox(Object* variant) {
-    if constexpr (std::is_enum_v<T>) {
-        return static_cast<T>(VariantToInt32(variant));
-    } else if constexpr (std::is_same_v<T, bool>) {
+    if constexpr (std::is_same_v<T, bool>) {
         return VariantToBoolean(variant);
     } else if constexpr (std::is_same_v<T, std::int64_t>) {
         return VariantToInt64(variant);
     } else if constexpr (std::is_same_v<T, std::uint64_t>) {
         return VariantToUInt64(variant);
-    } else if constexpr (std::is_integral_v<T> && std::is_signed_v<T>) {
+    } else if constexpr (std::is_enum_v<T> || (std::is_integral_v<T> && std::is_signed_v<T>)) {
         return static_cast<T>(VariantToInt32(variant));
     } else if constexpr (std::is_integral_v<T>) {
         return static_cast<T>(VariantToUInt32(variant));
