@@ -10,6 +10,7 @@
 #include "data/memory_block.h"
 #include "data/open_dialog.h"
 #include "data/pair.h"
+#include "data/permissions.h"
 #include "data/streams.h"
 #include "data/text_encoding.h"
 #include "data/thread.h"
@@ -67,8 +68,8 @@ void initialize() {
                   UnsupportedFormatException, ThreadEndException, ThreadAlreadyRunningException, RuntimeException,
                   NilObjectException, IllegalCastException, InvalidParentException,
 
-                  Thread, FolderItem, Writeable, Readable, BinaryStream, TextEncoding, Application, OpenDialog,
-                  FolderItemDialog, RectControl, Control,
+                  Thread, FolderItem, Permissions, Writeable, Readable, BinaryStream, TextEncoding, Application,
+                  OpenDialog, FolderItemDialog, RectControl, Control,
 
                   _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
 

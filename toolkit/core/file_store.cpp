@@ -1,5 +1,7 @@
 #include "toolkit/core/file_store.h"
 
+#include "toolkit/core/file_place.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -62,16 +64,33 @@ std::string what_it_is(mode_t mode) {
 }  // namespace
 
 OpenedFile FileStore::open(const std::string& path, bool write) {
-    if (path.find('\0') != std::string::npos) return {.file = {}, .error = EINVAL, .reason = {}};
+    const Place place(path);
     // Looked at before it is opened, because opening a device can do something already.
     struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return {.file = {}, .error = errno, .reason = {}};
+    if (const int error = place.look(Links::kFollow, status)) return {.file = {}, .error = error, .reason = {}};
     if (!S_ISREG(status.st_mode)) return {.file = {}, .error = 0, .reason = what_it_is(status.st_mode)};
+    return open_at(place, path, write, 0);
+}
 
-    const int mode = (write ? O_RDWR : O_RDONLY) | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
-    const int descriptor = retried([&] { return ::open(path.c_str(), mode); });
+OpenedFile FileStore::create(const std::string& path) {
+    const Place place(path);
+    struct stat status {};
+    const int error = place.look(Links::kFollow, status);
+    if (error != 0 && error != ENOENT) return {.file = {}, .error = error, .reason = {}};
+    if (error == 0 && !S_ISREG(status.st_mode)) return {.file = {}, .error = 0, .reason = what_it_is(status.st_mode)};
+    OpenedFile opened = open_at(place, path, true, O_CREAT);
+    if (!opened.file) return opened;
+    if (const int failed = opened.file->set_length(0)) return {.file = {}, .error = failed, .reason = {}};
+    return opened;
+}
+
+OpenedFile FileStore::open_at(const Place& place, const std::string& path, bool write, int creation) {
+    if (place.error() != 0) return {.file = {}, .error = place.error(), .reason = {}};
+    const int mode = (write ? O_RDWR : O_RDONLY) | creation | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+    const int descriptor = retried([&] { return ::openat(place.folder(), place.name(), mode, 0666); });
     if (descriptor < 0) return {.file = {}, .error = errno, .reason = {}};
     FileStore file(descriptor, path, write);
+    struct stat status {};
     if (::fstat(descriptor, &status) != 0) return {.file = {}, .error = errno, .reason = {}};
     if (!S_ISREG(status.st_mode)) return {.file = {}, .error = 0, .reason = what_it_is(status.st_mode)};
     return {.file = std::move(file), .error = 0, .reason = {}};

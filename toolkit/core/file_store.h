@@ -11,6 +11,7 @@
 namespace tavrik::core {
 
 struct OpenedFile;
+class Place;
 
 // An open regular file. Reads come through a buffer, and neighbouring writes are gathered in one; the file itself is
 // changed in place. Errors are the system's numbers, 0 for none.
@@ -18,6 +19,8 @@ class FileStore {
 public:
     // Opens only what is a regular file, and never waits for it.
     static OpenedFile open(const std::string& path, bool write);
+    // Opens an empty file for writing: a new one, or a regular file that loses what it has.
+    static OpenedFile create(const std::string& path);
 
     FileStore(FileStore&& other) noexcept;
     FileStore& operator=(FileStore&&) = delete;
@@ -38,6 +41,7 @@ public:
 
 private:
     FileStore(int descriptor, std::string path, bool writable);
+    static OpenedFile open_at(const Place& place, const std::string& path, bool write, int creation);
 
     std::string_view buffered(std::uint64_t position) const;
 

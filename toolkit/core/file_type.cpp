@@ -1,5 +1,7 @@
 #include "toolkit/core/file_type.h"
 
+#include "toolkit/core/text.h"
+
 #include <tavrik/file_type.h>
 
 #include <algorithm>
@@ -77,6 +79,27 @@ std::vector<front::FileFilter> filters_for(std::string_view filter) {
     });
     if (filters.size() > 1) filters.insert(filters.begin(), any_of(filters));
     return filters;
+}
+
+std::optional<MacCodes> mac_codes_of_type(std::string_view name) {
+    const auto type = find_type(name);
+    if (type == registered_types().end()) return {};
+    return MacCodes{type->mac_type, type->mac_creator};
+}
+
+std::string type_of_file(std::string_view file_name, std::string_view mac_type) {
+    const auto fits_name = [file_name](const RegisteredType& type) {
+        return std::ranges::any_of(type.extensions, [file_name](std::string_view extension) {
+            if (file_name.size() <= extension.size()) return false;
+            const std::size_t dot = file_name.size() - extension.size() - 1;
+            return file_name[dot] == '.' && equal_any_case(file_name.substr(dot + 1), extension);
+        });
+    };
+    auto found = std::ranges::find_if(registered_types(), fits_name);
+    if (found == registered_types().end() && !mac_type.empty()) {
+        found = std::ranges::find(registered_types(), mac_type, &RegisteredType::mac_type);
+    }
+    return found == registered_types().end() ? std::string() : found->name;
 }
 
 }  // namespace core

@@ -20,6 +20,8 @@ constexpr Totals kTotals[] = {
     {"Pair", 3, 1, 4},
     {"Dictionary", 16, 11, 2},
     {"FileType", 17, 15, 5},
+    {"FolderItem", 87, 43, 32},
+    {"Permissions", 26, 1, 12},
     {"MemoryBlock", 63, 57, 2},
     {"Date", 34, 4, 18},
     {"Thread", 13, 6, 4, 1},

@@ -1,0 +1,190 @@
+#include "toolkit/core/binary_stream.h"
+#include "toolkit/core/failure.h"
+#include "toolkit/core/file_store.h"
+#include "toolkit/core/file_tree.h"
+#include "toolkit/core/file_type.h"
+#include "toolkit/core/folder_item.h"
+#include "toolkit/core/launch.h"
+#include "toolkit/core/mac_metadata.h"
+#include "toolkit/core/path.h"
+#include "toolkit/core/save_info.h"
+#include "toolkit/core/special_folders.h"
+#include "toolkit/core/streams.h"
+
+#include <tavrik/exception.h>
+#include <tavrik/folder_item.h>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+namespace tavrik {
+namespace {
+
+using core::item_state;
+using core::ItemState;
+using core::Links;
+using core::Place;
+
+Ref<Object> stream_of(ItemState& state, core::OpenedFile opened, std::string_view not_done) {
+    state.last_error = 0;
+    if (opened.file) return core::make_binary_stream(std::move(*opened.file));
+    // A file that is no file has no number of the system's own; this one comes closest.
+    state.done(not_done, opened.error == 0 ? EINVAL : opened.error, opened.reason);
+    return nullptr;
+}
+
+// Where a copy goes: into a folder under the source's name, or to the path itself.
+std::string target_of(const ItemState& source, const ItemState& destination) {
+    struct stat status {};
+    const bool into = core::look_at(destination.path, destination.links, status) == 0 && S_ISDIR(status.st_mode);
+    return into ? core::join(destination.path, core::name_of(source.path)) : destination.path;
+}
+
+// The folder that relative paths count from.
+std::string base_of(const ItemState& state) {
+    struct stat status {};
+    const bool is_folder = core::look_at(state.path, Links::kFollow, status) != 0 || S_ISDIR(status.st_mode);
+    return is_folder ? state.path : std::string(core::folder_of(state.path));
+}
+
+bool is_there(const std::string& path) {
+    struct stat status {};
+    return core::look_at(path, Links::kItself, status) == 0;
+}
+
+bool is_program(const std::string& path) {
+    struct stat status {};
+    return core::look_at(path, Links::kFollow, status) == 0 && S_ISREG(status.st_mode) && (status.st_mode & 0111) != 0;
+}
+
+void start(ItemState& state, const std::vector<std::string>& words) {
+    // What other programs open is to have all that was written.
+    core::flush_all_streams();
+    state.done("opened on the desktop", core::start_program(words));
+}
+
+}  // namespace
+
+Ref<Object> FolderItemOpenBinaryFile(Object* item, bool write) {
+    ItemState& state = item_state(item);
+    return stream_of(state, core::FileStore::open(state.path, write), write ? "opened for writing" : "opened");
+}
+
+Ref<Object> FolderItemCreateBinaryFile(Object* item, const String& type) {
+    ItemState& state = item_state(item);
+    Ref<Object> stream = stream_of(state, core::FileStore::create(state.path), "created");
+    const auto codes = core::mac_codes_of_type(type.view());
+    if (!stream || !codes) return stream;
+    // A file that keeps no codes is a file all the same.
+    core::write_mac_code(state.path, core::MacCode::kType, codes->type);
+    core::write_mac_code(state.path, core::MacCode::kCreator, codes->creator);
+    return stream;
+}
+
+void FolderItemCreateAsFolder(Object* item) {
+    ItemState& state = item_state(item);
+    const Place place(state.path);
+    int error = place.error();
+    if (error == 0 && ::mkdirat(place.folder(), place.name(), 0777) != 0) error = errno;
+    state.done("created as a folder", error);
+}
+
+void FolderItemDelete(Object* item) {
+    ItemState& state = item_state(item);
+    state.done("deleted", core::remove_entry(Place(state.path)));
+}
+
+void FolderItemCopyFileTo(Object* item, Object* destination) {
+    ItemState& state = item_state(item);
+    const std::string target = target_of(state, item_state(destination));
+    core::flush_all_streams();
+    const core::Outcome outcome = core::copy_tree(state.path, state.links, target);
+    state.done("copied", outcome.error, outcome.reason);
+}
+
+void FolderItemMoveFileTo(Object* item, Object* destination) {
+    ItemState& state = item_state(item);
+    std::string target = target_of(state, item_state(destination));
+    core::flush_all_streams();
+    const core::Outcome outcome = core::move_tree(state.path, target);
+    if (state.done("moved", outcome.error, outcome.reason)) state.name_anew(std::move(target));
+}
+
+void FolderItemLaunch(Object* item, bool activate) {
+    ItemState& state = item_state(item);
+    struct stat status {};
+    state.last_error = 0;
+    if (!state.look(status)) return;
+    std::vector<std::string> words = core::desktop_opener(activate);
+    words.push_back(state.path);
+    start(state, words);
+}
+
+void FolderItemLaunchWithParameters(Object* item, const String& parameters, bool activate) {
+    ItemState& state = item_state(item);
+    std::vector<std::string> words{state.path};
+    std::string_view rest = parameters.view();
+    bool malformed = false;
+    while (auto word = core::take_shell_word(rest, malformed)) {
+        words.push_back(word->starts_at_home ? core::home_folder() + word->bytes : std::move(word->bytes));
+    }
+    if (malformed) {
+        state.done("launched", EINVAL, core::readable(parameters.view()).append(" isn't a list of words"));
+    } else if (words.size() == 1) {
+        FolderItemLaunch(item, activate);
+    } else if (!is_program(state.path)) {
+        // The desktop's openers take a file and nothing else.
+        state.done("launched with parameters", is_there(state.path) ? ENOEXEC : ENOENT);
+    } else {
+        start(state, words);
+    }
+}
+
+void FolderItemImpMakeFileExecutable(Object* item) {
+    ItemState& state = item_state(item);
+    const Place place(state.path);
+    struct stat status {};
+    int error = place.look(Links::kFollow, status);
+    // Who may read may execute.
+    const mode_t mode = (status.st_mode & 07777) | (status.st_mode & 0444) >> 2;
+    if (error == 0 && ::fchmodat(place.folder(), place.name(), mode, 0) != 0) error = errno;
+    state.done("made executable", error);
+}
+
+String FolderItemGetSaveInfo(Object* item, Object* relative_to, std::int32_t mode) {
+    const ItemState& state = item_state(item);
+    if (mode != kSaveInfoRelativeFirst && mode != kSaveInfoAbsoluteFirst) {
+        RuntimeRaise("UnsupportedFormatException", "save info has no mode " + std::to_string(mode));
+    }
+    if (state.path.empty()) return {};
+    core::SaveInfo info{.absolute = state.path};
+    if (mode == kSaveInfoAbsoluteFirst) info.first = core::SaveInfo::First::kAbsolute;
+    if (relative_to != nullptr) info.relative = core::relative_to(base_of(item_state(relative_to)), state.path);
+    return String(info.text());
+}
+
+Ref<Object> FolderItemGetRelative(Object* item, const String& save_info) {
+    ItemState& state = item_state(item);
+    const auto info = core::SaveInfo::parse(save_info.view());
+    if (!info) {
+        state.done("asked for what was saved", EINVAL, "the text isn't save info");
+        return nullptr;
+    }
+    std::vector<std::string> paths{info->absolute};
+    if (!info->relative.empty()) {
+        const std::string relative = core::absolute_path(core::join(base_of(state), info->relative));
+        const bool first = info->first == core::SaveInfo::First::kRelative;
+        paths.insert(first ? paths.begin() : paths.end(), relative);
+    }
+    state.last_error = 0;
+    for (const std::string& path : paths) {
+        if (is_there(path)) return core::make_folder_item(path);
+    }
+    state.done("asked for what was saved", ENOENT);
+    return nullptr;
+}
+
+}  // namespace tavrik

@@ -1,0 +1,36 @@
+#include <tavrik/exception.h>
+#include <tavrik/folder_item.h>
+
+#include <string>
+
+// The doors of an item to classes that the program doesn't have.
+namespace tavrik {
+namespace {
+
+[[noreturn]] void raise_missing(const char* class_name) {
+    RuntimeRaise("ServiceNotAvailableException", std::string("this program has no ") + class_name);
+}
+
+}  // namespace
+
+Ref<Object> FolderItemOpenTextFile(Object*) { raise_missing("TextInputStream"); }
+Ref<Object> FolderItemAppendTextFile(Object*) { raise_missing("TextOutputStream"); }
+Ref<Object> FolderItemCreateTextFile(Object*) { raise_missing("TextOutputStream"); }
+Ref<Object> FolderItemCreateVirtualVolume(Object*) { raise_missing("VirtualVolume"); }
+Ref<Object> FolderItemOpenAsVirtualVolume(Object*) { raise_missing("VirtualVolume"); }
+Ref<Object> folderVirtVolGetter(Object*, std::int32_t) { raise_missing("VirtualVolume"); }
+Ref<Object> folderOpenResourceFork(Object*) { raise_missing("ResourceFork"); }
+Ref<Object> folderCreateResourceFork(Object*, const String&) { raise_missing("ResourceFork"); }
+Ref<Object> FolderItemOpenAsCursor(Object*) { raise_missing("MouseCursor"); }
+Ref<Object> FolderItemOpenAsIcons(Object*) { raise_missing("Picture"); }
+Ref<Object> FolderItemOpenImage(Object*) { raise_missing("Picture"); }
+Ref<Object> FolderItemOpenVectorImage(Object*) { raise_missing("Picture"); }
+Ref<Object> FolderItemOpenSound(Object*) { raise_missing("Sound"); }
+Ref<Object> FolderItemOpenMovie(Object*) { raise_missing("Movie"); }
+Ref<Object> FolderItemOpenResourceMovie(Object*, std::int32_t) { raise_missing("Movie"); }
+void FolderItemOpenStyledEditField(Object*, Object*) { raise_missing("EditField"); }
+void FolderItemSaveStyledEditField(Object*, Object*) { raise_missing("EditField"); }
+void FolderItemSaveAsPicture(Object*, Object*, std::int32_t) { raise_missing("Picture"); }
+void FolderItemSaveAsJPEG(Object*, Object*) { raise_missing("Picture"); }
+
+}  // namespace tavrik
