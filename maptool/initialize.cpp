@@ -15,6 +15,7 @@
 #include "data/text_encoding.h"
 #include "data/thread.h"
 #include "data/variants.h"
+#include "data/virtual_volume.h"
 #include "introspection/array_info.h"
 #include "introspection/attribute_info.h"
 #include "introspection/class_info.h"
@@ -68,8 +69,8 @@ void initialize() {
                   UnsupportedFormatException, ThreadEndException, ThreadAlreadyRunningException, RuntimeException,
                   NilObjectException, IllegalCastException, InvalidParentException,
 
-                  Thread, FolderItem, Permissions, Writeable, Readable, BinaryStream, TextEncoding, Application,
-                  OpenDialog, FolderItemDialog, RectControl, Control,
+                  Thread, FolderItem, Permissions, VirtualVolume, Writeable, Readable, BinaryStream, TextEncoding,
+                  Application, OpenDialog, FolderItemDialog, RectControl, Control,
 
                   _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
 

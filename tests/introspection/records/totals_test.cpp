@@ -22,6 +22,7 @@ constexpr Totals kTotals[] = {
     {"FileType", 17, 15, 5},
     {"FolderItem", 87, 43, 32},
     {"Permissions", 26, 1, 12},
+    {"VirtualVolume", 3, 0, 1},
     {"MemoryBlock", 63, 57, 2},
     {"Date", 34, 4, 18},
     {"Thread", 13, 6, 4, 1},
