@@ -1,5 +1,8 @@
 #include "data/binary_stream.h"
 
+#include "data/memory_block.h"
+#include "data/text_encoding.h"
+
 namespace tavrik {
 namespace {
 
@@ -9,6 +12,7 @@ constexpr OperationRow kOperations[] = {
     operation<&BinaryStream::ReadByte, BinaryStreamReadByte>("ReadByte"),
     operation<&BinaryStream::ReadShort, BinaryStreamReadShort>("ReadShort"),
     operation<&BinaryStream::ReadLong, BinaryStreamReadLong>("ReadLong"),
+    operation<&BinaryStream::ReadPString, BinaryStreamReadPString>("ReadPString"),
     operation<&BinaryStream::ReadSingle, BinaryStreamReadFloat>("ReadSingle"),
     operation<&BinaryStream::ReadDouble, BinaryStreamReadDouble>("ReadDouble"),
     operation<&BinaryStream::ReadBoolean, BinaryStreamReadBoolean>("ReadBoolean"),
@@ -16,6 +20,7 @@ constexpr OperationRow kOperations[] = {
     operation<&BinaryStream::WriteByte, BinaryStreamWriteByte>("WriteByte"),
     operation<&BinaryStream::WriteShort, BinaryStreamWriteShort>("WriteShort"),
     operation<&BinaryStream::WriteLong, BinaryStreamWriteLong>("WriteLong"),
+    operation<&BinaryStream::WritePString, BinaryStreamWritePString>("WritePString"),
     operation<&BinaryStream::WriteSingle, BinaryStreamWriteFloat>("WriteSingle"),
     operation<&BinaryStream::WriteDouble, BinaryStreamWriteDouble>("WriteDouble"),
     operation<&BinaryStream::WriteBoolean, BinaryStreamWriteBoolean>("WriteBoolean"),
@@ -25,6 +30,11 @@ constexpr OperationRow kOperations[] = {
     operation<&BinaryStream::WriteError, last_error_is_odd>("WriteError"),
     operation<&BinaryStream::EOF_, BinaryStreamEOF>("EOF"),
     operation<&BinaryStream::ReadError, last_error_is_odd>("ReadError"),
+    operation<pick<void(const String&)>(&BinaryStream::Constructor), BinaryStringStringCtor>("Constructor"),
+    operation<pick<void(Arg<MemoryBlock>)>(&BinaryStream::Constructor), BinaryStringMemoryBlockCtor>("Constructor"),
+    operation<pick<void(std::int32_t, std::int32_t)>(&BinaryStream::Constructor), BinaryStreamHandleCtor>(
+        "Constructor"),
+    operation<&BinaryStream::Handle, BinaryStreamHandleGetter>("Handle"),
     operation<&BinaryStream::ReadInt8, BinaryStreamReadInt8>("ReadInt8"),
     operation<&BinaryStream::ReadInt16, BinaryStreamReadInt16>("ReadInt16"),
     operation<&BinaryStream::ReadInt32, BinaryStreamReadLong>("ReadInt32"),

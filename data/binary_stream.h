@@ -7,15 +7,18 @@
 
 namespace tavrik {
 
+struct MemoryBlock;
 struct TextEncoding;
 
-// Typed values at a byte position of a file. What fails shows in LastErrorCode, whose values are those of StreamError.
-struct BinaryStream : Class<BinaryStream> {
+// Typed values at a byte position of a file, a text, a memory block or a descriptor. What fails shows in LastErrorCode,
+// whose values are those of StreamError.
+struct BinaryStream : Class<BinaryStream, BinaryStreamObject> {
     static const ClassDefinition& definition();
 
     std::int32_t ReadByte() { return dispatch<&BinaryStream::ReadByte>(this); }
     std::int32_t ReadShort() { return dispatch<&BinaryStream::ReadShort>(this); }
     std::int32_t ReadLong() { return dispatch<&BinaryStream::ReadLong>(this); }
+    String ReadPString(Arg<TextEncoding> encoding) { return dispatch<&BinaryStream::ReadPString>(this, encoding); }
     double ReadSingle() { return dispatch<&BinaryStream::ReadSingle>(this); }
     double ReadDouble() { return dispatch<&BinaryStream::ReadDouble>(this); }
     bool ReadBoolean() { return dispatch<&BinaryStream::ReadBoolean>(this); }
@@ -25,6 +28,7 @@ struct BinaryStream : Class<BinaryStream> {
     void WriteByte(std::int32_t value) { dispatch<&BinaryStream::WriteByte>(this, value); }
     void WriteShort(std::int32_t value) { dispatch<&BinaryStream::WriteShort>(this, value); }
     void WriteLong(std::int32_t value) { dispatch<&BinaryStream::WriteLong>(this, value); }
+    void WritePString(const String& text) { dispatch<&BinaryStream::WritePString>(this, text); }
     void WriteSingle(double value) { dispatch<&BinaryStream::WriteSingle>(this, value); }
     void WriteDouble(double value) { dispatch<&BinaryStream::WriteDouble>(this, value); }
     void WriteBoolean(bool value) { dispatch<&BinaryStream::WriteBoolean>(this, value); }
@@ -34,6 +38,16 @@ struct BinaryStream : Class<BinaryStream> {
     bool WriteError() { return dispatch<&BinaryStream::WriteError>(this); }
     bool EOF_() { return dispatch<&BinaryStream::EOF_>(this); }
     bool ReadError() { return dispatch<&BinaryStream::ReadError>(this); }
+    void Constructor(const String& text) {
+        dispatch<pick<void(const String&)>(&BinaryStream::Constructor)>(this, text);
+    }
+    void Constructor(Arg<MemoryBlock> block) {
+        dispatch<pick<void(Arg<MemoryBlock>)>(&BinaryStream::Constructor)>(this, block);
+    }
+    void Constructor(std::int32_t handle, std::int32_t type) {
+        dispatch<pick<void(std::int32_t, std::int32_t)>(&BinaryStream::Constructor)>(this, handle, type);
+    }
+    std::int32_t Handle(std::int32_t type) { return dispatch<&BinaryStream::Handle>(this, type); }
     std::int8_t ReadInt8() { return dispatch<&BinaryStream::ReadInt8>(this); }
     std::int16_t ReadInt16() { return dispatch<&BinaryStream::ReadInt16>(this); }
     std::int32_t ReadInt32() { return dispatch<&BinaryStream::ReadInt32>(this); }
@@ -62,8 +76,6 @@ struct BinaryStream : Class<BinaryStream> {
     std::uint64_t Position() { return BinaryStreamGetPosition(this, 0); }
     void set_Position(std::uint64_t position) { BinaryStreamSetPosition(this, 0, position); }
     std::int32_t LastErrorCode() { return BinaryStreamLastErrorGetter(this, 0); }
-
-    bool mLittleEndian;
 };
 
 }  // namespace tavrik

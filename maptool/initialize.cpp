@@ -13,6 +13,8 @@
 #include "data/permissions.h"
 #include "data/streams.h"
 #include "data/text_encoding.h"
+#include "data/text_input_stream.h"
+#include "data/text_output_stream.h"
 #include "data/thread.h"
 #include "data/variants.h"
 #include "data/virtual_volume.h"
@@ -69,8 +71,8 @@ void initialize() {
                   UnsupportedFormatException, ThreadEndException, ThreadAlreadyRunningException, RuntimeException,
                   NilObjectException, IllegalCastException, InvalidParentException,
 
-                  Thread, FolderItem, Permissions, VirtualVolume, Writeable, Readable, BinaryStream, TextEncoding,
-                  Application, OpenDialog, FolderItemDialog, RectControl, Control,
+                  Thread, FolderItem, Permissions, VirtualVolume, Writeable, TextOutputStream, TextInputStream,
+                  Readable, BinaryStream, TextEncoding, Application, OpenDialog, FolderItemDialog, RectControl, Control,
 
                   _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
 

@@ -1,4 +1,7 @@
+#include "data/binary_stream.h"
 #include "data/memory_block.h"
+#include "data/text_encoding.h"
+#include "data/text_input_stream.h"
 #include "runtime/exceptions.h"
 
 #include <tavrik/runtime.h>
@@ -11,6 +14,8 @@ int main(int count, char** values) {
     tavrik::RuntimeInit();
     tavrik::OutOfBoundsException::__ctblinit();
     tavrik::MemoryBlock::__ctblinit();
+    tavrik::BinaryStream::__ctblinit();
+    tavrik::TextInputStream::__ctblinit();
     benchmark::RunSpecifiedBenchmarks();
     return tavrik::RuntimeExit();
 }

@@ -1,6 +1,7 @@
 #include "toolkit/core/encoding.h"
 
 #include <tavrik/exception.h>
+#include <tavrik/text_encoding.h>
 
 #include <iconv.h>
 
@@ -196,6 +197,15 @@ Iconv need(Iconv iconv, const EncodingRow& encoding) {
 
 }  // namespace
 
+bool is_utf8(std::string_view bytes) {
+    for (std::size_t at = ascii_end(bytes, 0); at < bytes.size();) {
+        const FrontCharacter taken = take_utf8(bytes.substr(at));
+        if (taken.length == 0 || taken.character == kReplacement) return false;
+        at = ascii_end(bytes, at + taken.length);
+    }
+    return true;
+}
+
 Decoder::Decoder(const EncodingRow& encoding) : encoding_(encoding.coding), coding_(encoding.coding) {
     if (coding_ == Coding::kIconv) iconv_ = need(open_from(encoding), encoding);
 }
@@ -310,6 +320,11 @@ std::string encode_all(const EncodingRow& encoding, std::string_view text) {
     encoder.encode(text, bytes);
     encoder.finish(bytes);
     return bytes;
+}
+
+std::uint32_t code_of(const Object* encoding) {
+    if (encoding == nullptr) return kEncodingUtf8;
+    return static_cast<std::uint32_t>(static_cast<const TextEncodingObject*>(encoding)->mCode);
 }
 
 std::string utf8_of(const String& text) {

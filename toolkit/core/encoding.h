@@ -3,6 +3,7 @@
 #include "toolkit/core/encoding_table.h"
 #include "toolkit/core/unicode.h"
 
+#include <tavrik/object.h>
 #include <tavrik/string.h>
 
 #include <string>
@@ -21,6 +22,8 @@ public:
     void decode(std::string_view bytes, std::string& text);
     // The bytes have ended: a sequence that is still cut becomes U+FFFD. The next piece begins another text.
     void finish(std::string& text);
+    // How many bytes of a cut sequence wait for the rest of it.
+    std::size_t held_back() const { return cut_.size(); }
 
 private:
     std::size_t take(std::string_view bytes, std::string& text);
@@ -53,9 +56,15 @@ private:
     std::string valid_;  // the piece, as UTF-8 of whole characters
 };
 
+// Whether the bytes are UTF-8 already, without U+FFFD.
+bool is_utf8(std::string_view bytes);
+
 // A whole text.
 std::string decode_all(const EncodingRow& encoding, std::string_view bytes);
 std::string encode_all(const EncodingRow& encoding, std::string_view text);
+
+// The number of a TextEncoding; nil means UTF-8.
+std::uint32_t code_of(const Object* encoding);
 
 // A string's text, whatever encoding it is labelled with.
 std::string utf8_of(const String& text);

@@ -1,11 +1,7 @@
-#include "toolkit/core/binary_stream.h"
 #include "toolkit/core/failure.h"
-#include "toolkit/core/file_store.h"
 #include "toolkit/core/file_tree.h"
-#include "toolkit/core/file_type.h"
 #include "toolkit/core/folder_item.h"
 #include "toolkit/core/launch.h"
-#include "toolkit/core/mac_metadata.h"
 #include "toolkit/core/path.h"
 #include "toolkit/core/save_info.h"
 #include "toolkit/core/special_folders.h"
@@ -27,14 +23,6 @@ using core::item_state;
 using core::ItemState;
 using core::Links;
 using core::Place;
-
-Ref<Object> stream_of(ItemState& state, core::OpenedFile opened, std::string_view not_done) {
-    state.last_error = 0;
-    if (opened.file) return core::make_binary_stream(std::move(*opened.file));
-    // A file that is no file has no number of the system's own; this one comes closest.
-    state.done(not_done, opened.error == 0 ? EINVAL : opened.error, opened.reason);
-    return nullptr;
-}
 
 // Where a copy goes: into a folder under the source's name, or to the path itself.
 std::string target_of(const ItemState& source, const ItemState& destination) {
@@ -67,22 +55,6 @@ void start(ItemState& state, const std::vector<std::string>& words) {
 }
 
 }  // namespace
-
-Ref<Object> FolderItemOpenBinaryFile(Object* item, bool write) {
-    ItemState& state = item_state(item);
-    return stream_of(state, core::FileStore::open(state.path, write), write ? "opened for writing" : "opened");
-}
-
-Ref<Object> FolderItemCreateBinaryFile(Object* item, const String& type) {
-    ItemState& state = item_state(item);
-    Ref<Object> stream = stream_of(state, core::FileStore::create(state.path), "created");
-    const auto codes = core::mac_codes_of_type(type.view());
-    if (!stream || !codes) return stream;
-    // A file that keeps no codes is a file all the same.
-    core::write_mac_code(state.path, core::MacCode::kType, codes->type);
-    core::write_mac_code(state.path, core::MacCode::kCreator, codes->creator);
-    return stream;
-}
 
 void FolderItemCreateAsFolder(Object* item) {
     ItemState& state = item_state(item);

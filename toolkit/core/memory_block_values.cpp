@@ -30,14 +30,6 @@ void write(std::byte* to, std::string_view bytes) {
     if (!bytes.empty()) std::memcpy(to, bytes.data(), bytes.size());
 }
 
-// As many bytes of a text as a length byte can count, cut where a character begins.
-std::string_view countable(std::string_view text) {
-    constexpr std::size_t kMost = 255;
-    if (text.size() <= kMost) return text;
-    const std::size_t characters = core::count_characters(text.substr(0, kMost + 1));
-    return text.substr(0, core::skip_characters(text, 0, characters - 1));
-}
-
 const core::EncodingRow& utf16_of(const MemoryBlockObject& block) {
     static const core::EncodingRow* const big = core::find_encoding("UTF-16BE");
     static const core::EncodingRow* const little = core::find_encoding("UTF-16LE");
@@ -111,10 +103,7 @@ String memoryGetString(Object* object, std::int32_t offset, std::int32_t length,
     const std::uint64_t width = static_cast<std::uint32_t>(length);
     const char* const text = text_at(object, offset, width);
     if (width == 0) return {};
-    const std::uint32_t code = encoding == nullptr
-                                   ? kEncodingUtf8
-                                   : static_cast<std::uint32_t>(static_cast<TextEncodingObject*>(encoding)->mCode);
-    return String::adopt(RuntimeNewString(text, width, code));
+    return String::adopt(RuntimeNewString(text, width, core::code_of(encoding)));
 }
 
 void memorySetString(Object* object, std::int32_t offset, std::int32_t length, const String& text) {
@@ -133,7 +122,7 @@ String memoryGetPString(Object* object, std::int32_t offset) {
 }
 
 void memorySetPString(Object* object, std::int32_t offset, const String& text) {
-    const std::string_view bytes = countable(text.view());
+    const std::string_view bytes = core::countable(text.view());
     std::byte* const to = memory_at(object, offset, 1 + bytes.size());
     to[0] = static_cast<std::byte>(bytes.size());
     write(to + 1, bytes);

@@ -13,9 +13,6 @@ namespace {
 
 }  // namespace
 
-Ref<Object> FolderItemOpenTextFile(Object*) { raise_missing("TextInputStream"); }
-Ref<Object> FolderItemAppendTextFile(Object*) { raise_missing("TextOutputStream"); }
-Ref<Object> FolderItemCreateTextFile(Object*) { raise_missing("TextOutputStream"); }
 Ref<Object> FolderItemCreateVirtualVolume(Object*) { raise_missing("VirtualVolume"); }
 Ref<Object> FolderItemOpenAsVirtualVolume(Object*) { raise_missing("VirtualVolume"); }
 Ref<Object> folderVirtVolGetter(Object*, std::int32_t) { raise_missing("VirtualVolume"); }

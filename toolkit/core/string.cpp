@@ -1,3 +1,5 @@
+#include "toolkit/core/string_room.h"
+
 #include <tavrik/exception.h>
 #include <tavrik/string.h>
 
@@ -12,8 +14,12 @@ namespace {
 
 constexpr std::size_t kLongest = std::numeric_limits<std::int32_t>::max() - kStringOverhead;
 
+}  // namespace
+
+namespace core {
+
 // The record and its text lie in one block, so that one release frees both.
-StringRecord* new_record(std::size_t length, std::uint32_t encoding) {
+StringRecord* new_string_room(std::size_t length, std::uint32_t encoding) {
     void* const block = length > kLongest ? nullptr : std::malloc(sizeof(StringRecord) + length + 2);
     if (block == nullptr) RuntimeRaise("OutOfMemoryException", "no memory for a text");
     auto* const text = static_cast<char*>(block) + sizeof(StringRecord);
@@ -23,10 +29,17 @@ StringRecord* new_record(std::size_t length, std::uint32_t encoding) {
     return new (block) StringRecord{1, text, size + kStringOverhead, size, encoding};
 }
 
-}  // namespace
+void shorten(StringRecord* string, std::size_t length) noexcept {
+    string->text[0] = static_cast<char>(static_cast<unsigned char>(std::min<std::size_t>(length, 255)));
+    string->text[length + 1] = '\0';
+    string->length = static_cast<std::int32_t>(length);
+    string->capacity = string->length + kStringOverhead;
+}
+
+}  // namespace core
 
 StringRecord* RuntimeNewString(const char* bytes, std::size_t length, std::uint32_t encoding) {
-    StringRecord* const record = new_record(length, encoding);
+    StringRecord* const record = core::new_string_room(length, encoding);
     std::memcpy(record->text + 1, bytes, length);
     return record;
 }
@@ -51,7 +64,7 @@ String RuntimeAddString(const String& a, const String& b) {
     if (b.empty()) return a;
     const std::string_view front = a.view();
     const std::string_view back = b.view();
-    StringRecord* const joined = new_record(front.size() + back.size(), a.record()->encoding);
+    StringRecord* const joined = core::new_string_room(front.size() + back.size(), a.record()->encoding);
     std::memcpy(joined->text + 1, front.data(), front.size());
     std::memcpy(joined->text + 1 + front.size(), back.data(), back.size());
     return String::adopt(joined);

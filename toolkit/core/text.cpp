@@ -46,6 +46,13 @@ std::size_t skip_characters(std::string_view text, std::size_t from, std::size_t
     return at;
 }
 
+std::string_view countable(std::string_view text) noexcept {
+    constexpr std::size_t kMost = 255;
+    if (text.size() <= kMost) return text;
+    const std::size_t characters = count_characters(text.substr(0, kMost + 1));
+    return text.substr(0, skip_characters(text, 0, characters - 1));
+}
+
 bool equal_any_case(std::string_view a, std::string_view b) noexcept {
     return std::ranges::equal(a, b, {}, lower, lower);
 }

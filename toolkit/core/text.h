@@ -11,6 +11,9 @@ std::size_t count_characters(std::string_view text) noexcept;
 // The offset of the byte at which the character after the next `count` begins, or the text's end.
 std::size_t skip_characters(std::string_view text, std::size_t from, std::size_t count) noexcept;
 
+// As many bytes of a text as a length byte can count, cut where a character begins.
+std::string_view countable(std::string_view text) noexcept;
+
 // Whether two texts are the same but for the case of ASCII letters.
 bool equal_any_case(std::string_view a, std::string_view b) noexcept;
 

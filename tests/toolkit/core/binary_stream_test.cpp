@@ -1,16 +1,19 @@
 #include "data/binary_stream.h"
 
 #include "data/folder_item.h"
+#include "data/memory_block.h"
+#include "data/text_encoding.h"
 #include "tests/support/balance.h"
 #include "tests/support/raised.h"
 #include "tests/support/recording_front.h"
 #include "tests/support/temporary_folder.h"
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/folder_item.h"
+#include "toolkit/core/streams.h"
 
 #include <sys/resource.h>
+#include <sys/socket.h>
 
-#include <csignal>
 #include <cstring>
 #include <functional>
 #include <random>
@@ -26,6 +29,9 @@ std::int32_t number_of(StreamError error) { return static_cast<std::int32_t>(err
 
 class BinaryStreams : public testing::Test {
 protected:
+    // What a test has left unread is told to nobody in the next one.
+    ~BinaryStreams() override { core::take_unread_stream_failures(); }
+
     Ref<BinaryStream> open(std::string_view bytes, bool write = true) {
         return item_for(folder_.new_file("valley.map", bytes))->OpenAsBinaryFile(write);
     }
@@ -151,16 +157,93 @@ TEST_F(BinaryStreams, A_closed_stream_fails_and_leaves_its_file) {
     EXPECT_EQ(in_file(), "valley");
 }
 
-// While the code runs, no file may grow beyond a few bytes.
+TEST_F(BinaryStreams, Read_and_write_counted_texts) {
+    const Ref<BinaryStream> stream = open("\x05val");
+    EXPECT_EQ(stream->ReadPString(nullptr), "val") << "as many bytes as there are";
+    EXPECT_EQ(stream->LastErrorCode(), number_of(StreamError::kEndOfData));
+    EXPECT_EQ(stream->ReadPString(nullptr), "");
+    stream->set_Position(0);
+    stream->WritePString(String(std::string(254, 'a') + "é"));
+    EXPECT_EQ(stream->Length(), 255U) << "no character is cut in two";
+    stream->set_Position(0);
+    EXPECT_EQ(stream->ReadPString(encoding_named("latin1")).record()->encoding, encoding_named("latin1")->code());
+}
+
+TEST_F(BinaryStreams, Over_a_memory_block_see_what_others_write_there) {
+    const Ref<MemoryBlock> block = make<MemoryBlock>();
+    block->Constructor(2);
+    const Ref<BinaryStream> stream = make<BinaryStream>();
+    stream->Constructor(block);
+    EXPECT_EQ(stream->ReadByte(), 0);
+    block->set_Byte(1, 7);
+    EXPECT_EQ(stream->ReadByte(), 7);
+    stream->WriteByte(9);
+    EXPECT_EQ(block->Byte(2), 9);
+    const Ref<MemoryBlock> borrowed = make<MemoryBlock>();
+    borrowed->Operator_Convert(block->Operator_Convert<void*>());
+    stream->Constructor(borrowed);
+    EXPECT_EQ(stream->Length(), 0U) << "its size isn't known";
+    stream->WriteByte(1);
+    EXPECT_EQ(stream->LastErrorCode(), number_of(StreamError::kNoRoom));
+    EXPECT_EQ(block->Byte(0), 0);
+    EXPECT_EQ(class_raised_by([&] { stream->Constructor(Arg<MemoryBlock>(nullptr)); }), "NilObjectException");
+}
+
+TEST_F(BinaryStreams, Over_a_text_write_to_a_copy) {
+    const String text("valley"_s);
+    const Ref<BinaryStream> stream = make<BinaryStream>();
+    stream->Constructor(text);
+    stream->set_Position(3);
+    stream->Write("LEYS"_s);
+    stream->set_Position(0);
+    EXPECT_EQ(stream->Read(100, nullptr), "valLEYS");
+    EXPECT_EQ(text, "valley");
+}
+
+TEST_F(BinaryStreams, Over_a_pair_of_sockets_read_and_write_in_turns) {
+    int ends[2];
+    ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM, 0, ends), 0);
+    const Ref<BinaryStream> here = make<BinaryStream>();
+    Ref<BinaryStream> there = make<BinaryStream>();
+    here->Constructor(ends[0], kHandleOfDescriptor);
+    there->Constructor(ends[1], kHandleOfDescriptor);
+    EXPECT_EQ(here->Handle(kHandleOfDescriptor), ends[0]);
+    EXPECT_EQ(here->Handle(1), -1);
+    there->Write("onetwo"_s);
+    there->Flush();
+    EXPECT_EQ(here->Read(3, nullptr), "one") << "without waiting for more";
+    here->Write("answer"_s);
+    EXPECT_EQ(here->Read(3, nullptr), "two") << "what was read ahead isn't lost";
+    EXPECT_EQ(there->Read(6, nullptr), "answer");
+    here->set_Position(0);
+    EXPECT_EQ(here->LastErrorCode(), number_of(StreamError::kNoPosition));
+    there->Write("end"_s);
+    there = nullptr;
+    EXPECT_FALSE(here->EOF_());
+    EXPECT_EQ(here->Read(INT32_MAX, nullptr), "end");
+    EXPECT_TRUE(here->EOF_());
+    here->Write("x"_s);
+    here->Flush();
+    EXPECT_EQ(here->LastErrorCode(), number_of(StreamError::kWriteFailed)) << "and no signal ends the program";
+}
+
+TEST_F(BinaryStreams, Take_no_other_handles) {
+    const Ref<BinaryStream> stream = make<BinaryStream>();
+    EXPECT_EQ(class_raised_by([&] { stream->Constructor(0, 5); }), "UnsupportedFormatException");
+    stream->Constructor(12345, kHandleOfDescriptor);
+    EXPECT_EQ(stream->LastErrorCode(), number_of(StreamError::kNotOpen));
+    EXPECT_EQ(stream->Handle(kHandleOfDescriptor), -1);
+    EXPECT_TRUE(stream->EOF_());
+}
+
+// While the code runs, no file may grow beyond a few bytes. Trying it sends a signal that would end the process.
 void on_a_full_disk(const std::function<void()>& code) {
     rlimit before{};
     ::getrlimit(RLIMIT_FSIZE, &before);
     const rlimit small{16, before.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &small);
     code();
     ::setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
 }
 
 TEST_F(BinaryStreams, Keep_a_failure_and_tell_it_unless_the_code_has_read_it) {

@@ -45,10 +45,12 @@ TAVRIK_API Ref<Object> FolderItemTrueItem(Object* item, std::int32_t position);
 TAVRIK_API Ref<Object> FolderChild(Object* item, const String& name);
 TAVRIK_API Ref<Object> FolderTrueChild(Object* item, const String& name);
 
-// What the program has no class for raises ServiceNotAvailableException.
 TAVRIK_API Ref<Object> FolderItemOpenTextFile(Object* item);
+// Writes behind what the file has; makes it if it isn't there.
 TAVRIK_API Ref<Object> FolderItemAppendTextFile(Object* item);
+// Opens an empty file for writing: a new one, or one that was there and loses its bytes.
 TAVRIK_API Ref<Object> FolderItemCreateTextFile(Object* item);
+// What the program has no class for raises ServiceNotAvailableException.
 TAVRIK_API Ref<Object> FolderItemCreateVirtualVolume(Object* item);
 TAVRIK_API Ref<Object> FolderItemOpenAsVirtualVolume(Object* item);
 TAVRIK_API Ref<Object> folderOpenResourceFork(Object* item);
