@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <fstream>
+#include <string>
 #include <vector>
 
 namespace tavrik::bench {
@@ -28,7 +29,7 @@ void ten_thousand_threads(benchmark::State& state) {
     for (auto _ : state) {
         for (int i = 0; i < kMany; ++i) YieldToNextThread(nullptr);
     }
-    state.counters["bytes_each"] = (resident_bytes() - before) / kMany;
+    state.SetLabel(std::to_string(static_cast<int>((resident_bytes() - before) / kMany)) + " bytes each");
     for (const Ref<Thread>& thread : threads) thread->Kill();
     for (const Ref<Thread>& thread : threads) end(thread);
 }
