@@ -26,9 +26,9 @@ core::Stream& stream_of(Object* object) {
 
 namespace core {
 
-Ref<Object> make_binary_stream(FileStore file) {
+Ref<Object> make_binary_stream(std::unique_ptr<ByteStore> store) {
     Ref<Object> stream = RuntimeNewObject(need_class("BinaryStream"));
-    stream_of(stream.object()).open(std::make_unique<FileStore>(std::move(file)));
+    stream_of(stream.object()).open(std::move(store));
     return stream;
 }
 

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "toolkit/core/file_store.h"
+#include "toolkit/core/byte_store.h"
 
 #include <tavrik/object.h>
 
+#include <memory>
+
 namespace tavrik::core {
 
-// A new BinaryStream over an open file.
-Ref<Object> make_binary_stream(FileStore file);
+// A new BinaryStream over an open store.
+Ref<Object> make_binary_stream(std::unique_ptr<ByteStore> store);
 
 }  // namespace tavrik::core

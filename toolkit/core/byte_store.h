@@ -9,8 +9,8 @@
 
 namespace tavrik::core {
 
-// Where the bytes of a stream lie. It holds nothing back: what has been written is there. Errors are the system's
-// numbers, 0 for none.
+// Where the bytes of a stream lie. It holds nothing back: what has been written is there for all who read. Errors are
+// the system's numbers, 0 for none.
 class ByteStore {
 public:
     ByteStore(std::string description, bool writable) : description_(std::move(description)), writable_(writable) {}
@@ -34,6 +34,8 @@ public:
     virtual int write(std::uint64_t position, std::string_view bytes) = 0;
     virtual std::uint64_t length(int& error) = 0;
     virtual int set_length(std::uint64_t length) = 0;
+    // Stores for good what isn't yet. After an error it can be tried again.
+    virtual int keep() { return 0; }
     virtual int close() { return 0; }
 
 protected:

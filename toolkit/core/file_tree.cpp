@@ -66,46 +66,23 @@ void sync_folder(int folder) {
 
 Outcome copy_between(const Place& source, const Place& target) {
     struct stat status {};
-    struct stat there {};
     if (const int error = source.look(Links::kItself, status)) return {error, {}};
     if (target.error() != 0) return {target.error(), {}};
     if (S_ISDIR(status.st_mode) && lies_in(target.folder(), status)) return {EINVAL, kIntoItself};
-    // Known before anything is copied; the rename at the end is what decides.
-    const int error = target.look(Links::kItself, there);
-    if (error == 0) return {EEXIST, {}};
-    if (error != ENOENT) return {error, {}};
-
-    const std::string temporary = temporary_name();
-    const Descriptor folder(::openat(target.folder(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!folder) return {errno, {}};
-    Outcome outcome = TreeCopy::run(source.folder(), source.name(), folder.get(), temporary);
-    if (outcome.error == 0) {
-        outcome.error = rename_in_place(folder.get(), temporary.c_str(), folder.get(), target.name());
-    }
-    if (outcome.error != 0) {
-        remove_tree(folder, temporary);
-        return outcome;
-    }
-    ::fsync(folder.get());
-    return outcome;
-}
-
-// After the copy: the source goes at once, by a rename, so that it is there whole or not at all. `touched` tells
-// whether something of it may be gone.
-int remove_source(const Place& source, bool& touched) {
-    const std::string aside = temporary_name();
-    const Descriptor folder(::openat(source.folder(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    struct stat status {};
-    if (!folder || ::fstatat(folder.get(), source.name(), &status, AT_SYMLINK_NOFOLLOW) != 0) return errno;
-    if (const int error = rename_in_place(folder.get(), source.name(), folder.get(), aside.c_str())) return error;
-    const int error = remove_tree(folder, aside);
-    if (error == 0) return 0;
-    touched = S_ISDIR(status.st_mode);
-    rename_in_place(folder.get(), aside.c_str(), folder.get(), source.name());
-    return error;
+    return make_and_rename(target, [&](const Descriptor& folder, const std::string& name) {
+        return TreeCopy::run(source.folder(), source.name(), folder.get(), name);
+    });
 }
 
 }  // namespace
+
+int sync_all(const Descriptor& folder) {
+#ifdef __linux__
+    return ::syncfs(folder.get()) == 0 ? 0 : errno;
+#else
+    return ::fsync(folder.get()) == 0 ? 0 : errno;
+#endif
+}
 
 std::string temporary_name() {
     static std::random_device device;
@@ -128,6 +105,44 @@ int remove_entry(const Place& place) {
     if (error != EISDIR && error != EPERM) return error;
     if (::unlinkat(place.folder(), place.name(), AT_REMOVEDIR) == 0) return 0;
     return errno == ENOTDIR ? error : errno;
+}
+
+Outcome make_and_rename(const Place& target, const Making& make) {
+    if (target.error() != 0) return {target.error(), {}};
+    // Known before anything is copied; the rename at the end is what decides.
+    struct stat there {};
+    const int error = target.look(Links::kItself, there);
+    if (error == 0) return {EEXIST, {}};
+    if (error != ENOENT) return {error, {}};
+
+    const std::string temporary = temporary_name();
+    const Descriptor folder(::openat(target.folder(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder) return {errno, {}};
+    Outcome outcome = make(folder, temporary);
+    if (outcome.error == 0) {
+        outcome.error = rename_in_place(folder.get(), temporary.c_str(), folder.get(), target.name());
+    }
+    if (outcome.error != 0) {
+        remove_tree(folder, temporary);
+        return outcome;
+    }
+    ::fsync(folder.get());
+    return outcome;
+}
+
+// It goes at once, by a rename, so that it is there whole or not at all.
+int remove_at_once(const Place& source, bool& touched) {
+    if (source.error() != 0) return source.error();
+    const std::string aside = temporary_name();
+    const Descriptor folder(::openat(source.folder(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    struct stat status {};
+    if (!folder || ::fstatat(folder.get(), source.name(), &status, AT_SYMLINK_NOFOLLOW) != 0) return errno;
+    if (const int error = rename_in_place(folder.get(), source.name(), folder.get(), aside.c_str())) return error;
+    const int error = remove_tree(folder, aside);
+    if (error == 0) return 0;
+    touched = S_ISDIR(status.st_mode);
+    rename_in_place(folder.get(), aside.c_str(), folder.get(), source.name());
+    return error;
 }
 
 Outcome copy_tree(const std::string& from, Links links, const std::string& to) {
@@ -155,7 +170,7 @@ Outcome move_tree(const std::string& from, const std::string& to) {
     Outcome outcome = copy_between(source, target);
     if (outcome.error != 0) return outcome;
     bool touched = false;
-    outcome.error = remove_source(source, touched);
+    outcome.error = remove_at_once(source, touched);
     if (outcome.error == 0 || touched) return outcome;
     const Descriptor folder(::openat(target.folder(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (folder) remove_tree(folder, target.name());

@@ -2,6 +2,7 @@
 
 #include "toolkit/core/file_place.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,10 @@ Outcome copy_tree(const std::string& from, Links links, const std::string& to);
 // can't be removed at all, everything is as it was.
 Outcome move_tree(const std::string& from, const std::string& to);
 
+// Makes something under another name in the folder of a place, and renames it.
+using Making = std::function<Outcome(const Descriptor& folder, const std::string& name)>;
+Outcome make_and_rename(const Place& target, const Making& make);
+
 // Renames, unless there is something by the new name.
 int rename_in_place(int from_folder, const char* from, int to_folder, const char* to);
 
@@ -28,6 +33,11 @@ int rename_in_place(int from_folder, const char* from, int to_folder, const char
 int remove_entry(const Place& place);
 // Deletes with all that is in it, without following a link.
 int remove_tree(const Descriptor& folder, const std::string& name);
+// The same for a place; `touched` tells after an error whether something of it may be gone.
+int remove_at_once(const Place& source, bool& touched);
+
+// Brings all of a file system to the disk, or of the folder where the system can't.
+int sync_all(const Descriptor& folder);
 
 // A name that nothing has by chance.
 std::string temporary_name();

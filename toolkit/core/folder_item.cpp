@@ -50,11 +50,13 @@ bool is_path(const std::optional<std::string>& path) {
 // An entry of a folder: nil where its link leads nowhere that could be named.
 Ref<Object> make_entry(ItemState& folder, std::string path, Links links) {
     if (links == Links::kFollow) {
-        if (!folder.done("followed", core::follow_links(path))) return nullptr;
+        if (!folder.done("followed", folder.files->follow_links(path))) return nullptr;
     }
     folder.last_error = 0;
-    return core::make_folder_item(path, links);
+    return core::make_folder_item_in(folder.files, std::move(path), links);
 }
+
+String name_of(const ItemState& state) { return String(state.files->name_of(state.path)); }
 
 Ref<Object> child(Object* item, const String& name, Links links) {
     ItemState& state = item_state(item);
@@ -69,7 +71,8 @@ Ref<Object> entry_at(Object* item, std::int32_t position, Links links) {
     ItemState& state = item_state(item);
     std::string name;
     const int error =
-        position < 1 ? ENOENT : state.listing.name_at(state.path, static_cast<std::size_t>(position) - 1, name);
+        position < 1 ? ENOENT
+                     : state.listing.name_at(*state.files, state.path, static_cast<std::size_t>(position) - 1, name);
     if (!state.done("asked for an entry", error)) return nullptr;
     return make_entry(state, core::join(state.path, name), links);
 }
@@ -79,9 +82,14 @@ Ref<Object> entry_at(Object* item, std::int32_t position, Links links) {
 namespace core {
 
 Ref<Object> make_folder_item(std::string_view path, Links links) {
+    return make_folder_item_in(disk(), absolute_path(path), links);
+}
+
+Ref<Object> make_folder_item_in(const FileSystemPointer& files, std::string path, Links links) {
     Ref<Object> item = RuntimeNewObject(need_class("FolderItem"));
     ItemState& state = item_state(item.object());
-    state.path = absolute_path(path);
+    state.files = files;
+    state.path = std::move(path);
     state.links = links;
     return item;
 }
@@ -94,19 +102,19 @@ ItemState& item_state(Object* item) {
 
 bool ItemState::done(std::string_view not_done, int error) {
     last_error = error;
-    if (error != 0) EventScope::note_failure(describe_failure(path, not_done, error));
+    if (error != 0) EventScope::note_failure(describe_failure(files->name_of(path), not_done, error));
     return error == 0;
 }
 
 bool ItemState::done(std::string_view not_done, int error, std::string_view reason) {
     if (error == 0 || reason.empty()) return done(not_done, error);
     last_error = error;
-    EventScope::note_failure(describe_failure(path, not_done, reason));
+    EventScope::note_failure(describe_failure(files->name_of(path), not_done, reason));
     return false;
 }
 
 bool ItemState::look(struct stat& status) {
-    const int error = look_at(path, links, status);
+    const int error = files->look(path, links, status);
     return error == 0 || done("looked at", error);
 }
 
@@ -115,10 +123,15 @@ void ItemState::name_anew(std::string new_path) {
     listing.forget();
 }
 
+bool ItemState::is_refused_inside(std::string_view not_done) {
+    return is_inside() && !done(not_done, ENOTSUP, "it lies in a virtual volume");
+}
+
 }  // namespace core
 
 void FolderItemPathCtorNoParams(Object* item) {
     ItemState& state = item_state(item);
+    state.files = core::disk();
     state.name_anew(core::absolute_path("."));
     state.links = Links::kFollow;
 }
@@ -133,6 +146,7 @@ void FolderItemPathCtor(Object* item, const String& path, std::int32_t form) {
         RuntimeRaise("UnsupportedFormatException",
                      "\"" + core::readable(path.view()) + "\" isn't " + kForms[form].name);
     }
+    state.files = core::disk();
     state.name_anew(core::absolute_path(*named));
     state.links = Links::kFollow;
 }
@@ -140,6 +154,7 @@ void FolderItemPathCtor(Object* item, const String& path, std::int32_t form) {
 void FolderItemCopyCtor(Object* item, Object* other) {
     const ItemState& source = item_state(other);
     ItemState& state = item_state(item);
+    state.files = source.files;
     state.name_anew(source.path);
     state.links = source.links;
 }
@@ -154,22 +169,32 @@ Ref<Object> FolderTrueChild(Object* item, const String& name) { return child(ite
 Ref<Object> folderParentGetter(Object* item, std::int32_t) {
     const ItemState& state = item_state(item);
     if (state.path.empty() || state.path == "/") return nullptr;
-    return core::make_folder_item(core::folder_of(state.path));
+    return core::make_folder_item_in(state.files, std::string(core::folder_of(state.path)));
 }
 
 Ref<Object> folderFindFolder(Object* item, std::int32_t code) {
-    const auto path = core::special_folder(code, item_state(item).path);
+    const ItemState& state = item_state(item);
+    const auto path = core::special_folder(code, state.files->path_on_disk(state.path));
     if (!path) return nullptr;
     return core::make_folder_item(*path);
 }
 
-String fileAbsolutePathGetter(Object* item, std::int32_t) { return String(std::string_view(item_state(item).path)); }
-String fileNameGetter(Object* item, std::int32_t) { return String(core::name_of(item_state(item).path)); }
-String FileDisplayNameGetter(Object* item, std::int32_t) {
-    return String(core::readable(core::name_of(item_state(item).path)));
+String fileAbsolutePathGetter(Object* item, std::int32_t) {
+    const ItemState& state = item_state(item);
+    return String(state.files->full_path(state.path));
 }
-String FileShellPathGetter(Object* item, std::int32_t) { return String(core::shell_quoted(item_state(item).path)); }
-String FileURLGetter(Object* item, std::int32_t) { return String(core::url_of(item_state(item).path)); }
+String fileNameGetter(Object* item, std::int32_t) { return name_of(item_state(item)); }
+String FileDisplayNameGetter(Object* item, std::int32_t) {
+    return String(core::readable(name_of(item_state(item)).view()));
+}
+String FileShellPathGetter(Object* item, std::int32_t) {
+    const ItemState& state = item_state(item);
+    return state.is_inside() ? String() : String(core::shell_quoted(state.path));
+}
+String FileURLGetter(Object* item, std::int32_t) {
+    const ItemState& state = item_state(item);
+    return state.is_inside() ? String() : String(core::url_of(state.path));
+}
 
 std::int32_t FolderItemGetLastError(Object* item, std::int32_t) { return item_state(item).last_error; }
 void FolderItemSetLastError(Object* item, std::int32_t, std::int32_t error) { item_state(item).last_error = error; }

@@ -1,5 +1,4 @@
 #include "toolkit/core/failure.h"
-#include "toolkit/core/file_tree.h"
 #include "toolkit/core/folder_item.h"
 #include "toolkit/core/launch.h"
 #include "toolkit/core/path.h"
@@ -10,9 +9,6 @@
 #include <tavrik/exception.h>
 #include <tavrik/folder_item.h>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <utility>
 
@@ -22,25 +18,27 @@ namespace {
 using core::item_state;
 using core::ItemState;
 using core::Links;
-using core::Place;
+
+constexpr mode_t kFolderMode = 0777;
 
 // Where a copy goes: into a folder under the source's name, or to the path itself.
 std::string target_of(const ItemState& source, const ItemState& destination) {
     struct stat status {};
-    const bool into = core::look_at(destination.path, destination.links, status) == 0 && S_ISDIR(status.st_mode);
-    return into ? core::join(destination.path, core::name_of(source.path)) : destination.path;
+    const int error = destination.files->look(destination.path, destination.links, status);
+    const bool into = error == 0 && S_ISDIR(status.st_mode);
+    return into ? core::join(destination.path, source.files->name_of(source.path)) : destination.path;
 }
 
 // The folder that relative paths count from.
 std::string base_of(const ItemState& state) {
     struct stat status {};
-    const bool is_folder = core::look_at(state.path, Links::kFollow, status) != 0 || S_ISDIR(status.st_mode);
+    const bool is_folder = state.files->look(state.path, Links::kFollow, status) != 0 || S_ISDIR(status.st_mode);
     return is_folder ? state.path : std::string(core::folder_of(state.path));
 }
 
-bool is_there(const std::string& path) {
+bool is_there(const core::FileSystem& files, const std::string& path) {
     struct stat status {};
-    return core::look_at(path, Links::kItself, status) == 0;
+    return files.look(path, Links::kItself, status) == 0;
 }
 
 bool is_program(const std::string& path) {
@@ -58,38 +56,39 @@ void start(ItemState& state, const std::vector<std::string>& words) {
 
 void FolderItemCreateAsFolder(Object* item) {
     ItemState& state = item_state(item);
-    const Place place(state.path);
-    int error = place.error();
-    if (error == 0 && ::mkdirat(place.folder(), place.name(), 0777) != 0) error = errno;
-    state.done("created as a folder", error);
+    state.done("created as a folder", state.files->make_folder(state.path, kFolderMode));
 }
 
 void FolderItemDelete(Object* item) {
     ItemState& state = item_state(item);
-    state.done("deleted", core::remove_entry(Place(state.path)));
+    state.done("deleted", state.files->remove(state.path));
 }
 
 void FolderItemCopyFileTo(Object* item, Object* destination) {
     ItemState& state = item_state(item);
-    const std::string target = target_of(state, item_state(destination));
+    const ItemState& goal = item_state(destination);
+    const std::string target = target_of(state, goal);
     core::flush_all_streams();
-    const core::Outcome outcome = core::copy_tree(state.path, state.links, target);
+    const core::Outcome outcome = core::copy_item(state.location(), state.links, {*goal.files, target});
     state.done("copied", outcome.error, outcome.reason);
 }
 
 void FolderItemMoveFileTo(Object* item, Object* destination) {
     ItemState& state = item_state(item);
-    std::string target = target_of(state, item_state(destination));
+    const ItemState& goal = item_state(destination);
+    std::string target = target_of(state, goal);
     core::flush_all_streams();
-    const core::Outcome outcome = core::move_tree(state.path, target);
-    if (state.done("moved", outcome.error, outcome.reason)) state.name_anew(std::move(target));
+    const core::Outcome outcome = core::move_item(state.location(), {*goal.files, target});
+    if (!state.done("moved", outcome.error, outcome.reason)) return;
+    state.files = goal.files;
+    state.name_anew(std::move(target));
 }
 
 void FolderItemLaunch(Object* item, bool activate) {
     ItemState& state = item_state(item);
     struct stat status {};
     state.last_error = 0;
-    if (!state.look(status)) return;
+    if (state.is_refused_inside("opened on the desktop") || !state.look(status)) return;
     std::vector<std::string> words = core::desktop_opener(activate);
     words.push_back(state.path);
     start(state, words);
@@ -97,6 +96,7 @@ void FolderItemLaunch(Object* item, bool activate) {
 
 void FolderItemLaunchWithParameters(Object* item, const String& parameters, bool activate) {
     ItemState& state = item_state(item);
+    if (state.is_refused_inside("launched with parameters")) return;
     std::vector<std::string> words{state.path};
     std::string_view rest = parameters.view();
     bool malformed = false;
@@ -109,7 +109,7 @@ void FolderItemLaunchWithParameters(Object* item, const String& parameters, bool
         FolderItemLaunch(item, activate);
     } else if (!is_program(state.path)) {
         // The desktop's openers take a file and nothing else.
-        state.done("launched with parameters", is_there(state.path) ? ENOEXEC : ENOENT);
+        state.done("launched with parameters", is_there(*state.files, state.path) ? ENOEXEC : ENOENT);
     } else {
         start(state, words);
     }
@@ -117,12 +117,11 @@ void FolderItemLaunchWithParameters(Object* item, const String& parameters, bool
 
 void FolderItemImpMakeFileExecutable(Object* item) {
     ItemState& state = item_state(item);
-    const Place place(state.path);
     struct stat status {};
-    int error = place.look(Links::kFollow, status);
+    int error = state.files->look(state.path, Links::kFollow, status);
     // Who may read may execute.
     const mode_t mode = (status.st_mode & 07777) | (status.st_mode & 0444) >> 2;
-    if (error == 0 && ::fchmodat(place.folder(), place.name(), mode, 0) != 0) error = errno;
+    if (error == 0) error = state.files->set_mode(state.path, Links::kFollow, mode);
     state.done("made executable", error);
 }
 
@@ -132,9 +131,11 @@ String FolderItemGetSaveInfo(Object* item, Object* relative_to, std::int32_t mod
         RuntimeRaise("UnsupportedFormatException", "save info has no mode " + std::to_string(mode));
     }
     if (state.path.empty()) return {};
-    core::SaveInfo info{.absolute = state.path};
+    core::SaveInfo info{.absolute = state.files->full_path(state.path)};
     if (mode == kSaveInfoAbsoluteFirst) info.first = core::SaveInfo::First::kAbsolute;
-    if (relative_to != nullptr) info.relative = core::relative_to(base_of(item_state(relative_to)), state.path);
+    if (relative_to != nullptr && item_state(relative_to).files->volume() == state.files->volume()) {
+        info.relative = core::relative_to(base_of(item_state(relative_to)), state.path);
+    }
     return String(info.text());
 }
 
@@ -145,15 +146,16 @@ Ref<Object> FolderItemGetRelative(Object* item, const String& save_info) {
         state.done("asked for what was saved", EINVAL, "the text isn't save info");
         return nullptr;
     }
-    std::vector<std::string> paths{info->absolute};
+    std::vector<std::string> paths;
+    if (auto path = state.files->own_path(info->absolute)) paths.push_back(std::move(*path));
     if (!info->relative.empty()) {
-        const std::string relative = core::absolute_path(core::join(base_of(state), info->relative));
+        std::string relative = state.files->plain_path(core::join(base_of(state), info->relative));
         const bool first = info->first == core::SaveInfo::First::kRelative;
-        paths.insert(first ? paths.begin() : paths.end(), relative);
+        paths.insert(first ? paths.begin() : paths.end(), std::move(relative));
     }
     state.last_error = 0;
-    for (const std::string& path : paths) {
-        if (is_there(path)) return core::make_folder_item(path);
+    for (std::string& path : paths) {
+        if (is_there(*state.files, path)) return core::make_folder_item_in(state.files, std::move(path));
     }
     state.done("asked for what was saved", ENOENT);
     return nullptr;

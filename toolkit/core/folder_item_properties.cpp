@@ -1,6 +1,5 @@
 #include "toolkit/core/file_dates.h"
 #include "toolkit/core/file_times.h"
-#include "toolkit/core/file_tree.h"
 #include "toolkit/core/file_type.h"
 #include "toolkit/core/folder_item.h"
 #include "toolkit/core/mac_metadata.h"
@@ -9,7 +8,6 @@
 #include <tavrik/folder_item.h>
 #include <tavrik/permissions.h>
 
-#include <fcntl.h>
 #include <grp.h>
 #include <pwd.h>
 #include <unistd.h>
@@ -28,7 +26,6 @@ using core::item_state;
 using core::ItemState;
 using core::Links;
 using core::MacCode;
-using core::Place;
 
 constexpr mode_t kAnyWrite = 0222;
 constexpr std::int32_t kMostInt32 = std::numeric_limits<std::int32_t>::max();
@@ -41,35 +38,22 @@ struct stat status_of(Object* item) {
     return status;
 }
 
-int flags_for(Links links) { return links == Links::kItself ? AT_SYMLINK_NOFOLLOW : 0; }
-
 void set_mode(ItemState& state, mode_t mode) {
-    const Place place(state.path);
-    int error = place.error();
-    if (error == 0 && ::fchmodat(place.folder(), place.name(), mode, flags_for(state.links)) != 0) error = errno;
-    state.done("given permissions", error);
+    state.done("given permissions", state.files->set_mode(state.path, state.links, mode));
 }
 
 void rename(ItemState& state, const std::string& name) {
-    const Place place(state.path);
-    int error = core::is_entry_name(name) ? place.error() : EINVAL;
-    if (error == 0 && name != place.name()) {
-        error = core::rename_in_place(place.folder(), place.name(), place.folder(), name.c_str());
-    }
+    const int error = core::is_entry_name(name) ? state.files->rename(state.path, name) : EINVAL;
     if (state.done("renamed", error)) state.name_anew(core::join(core::folder_of(state.path), name));
 }
 
 bool is_allowed(Object* item, int what) {
-    const Place place(item_state(item).path);
-    return place.error() == 0 && ::faccessat(place.folder(), place.name(), what, AT_EACCESS) == 0;
+    const ItemState& state = item_state(item);
+    return state.files->allows(state.path, what);
 }
 
 void set_owner(ItemState& state, uid_t owner, gid_t group, int error) {
-    const Place place(state.path);
-    if (error == 0) error = place.error();
-    if (error == 0 && ::fchownat(place.folder(), place.name(), owner, group, flags_for(state.links)) != 0) {
-        error = errno;
-    }
+    if (error == 0) error = state.files->set_owner(state.path, state.links, owner, group);
     state.done("given to another owner", error);
 }
 
@@ -125,17 +109,25 @@ std::optional<typename Accounts::Id> account_of(const String& text) {
     return id;
 }
 
+// A volume keeps no codes.
+int read_mac_code(const ItemState& state, MacCode which, std::string& code) {
+    struct stat status {};
+    if (state.is_inside()) return state.files->look(state.path, state.links, status);
+    return core::read_mac_code(state.path, which, code);
+}
+
 String mac_code(Object* item, MacCode which) {
     ItemState& state = item_state(item);
     std::string code;
-    if (const int error = core::read_mac_code(state.path, which, code)) state.done("looked at", error);
+    if (const int error = read_mac_code(state, which, code)) state.done("looked at", error);
     return String(code);
 }
 
 void set_mac_code(Object* item, MacCode which, const String& code) {
     ItemState& state = item_state(item);
-    const int error = core::write_mac_code(state.path, which, std::string(code.view()));
-    state.done(which == MacCode::kType ? "given a type" : "given a creator", error);
+    const std::string_view not_done = which == MacCode::kType ? "given a type" : "given a creator";
+    if (state.is_refused_inside(not_done)) return;
+    state.done(not_done, core::write_mac_code(state.path, which, std::string(code.view())));
 }
 
 }  // namespace
@@ -147,7 +139,7 @@ void fileNameSetter(Object* item, std::int32_t, const String& name) {
 std::int32_t fileCountGetter(Object* item, std::int32_t) {
     ItemState& state = item_state(item);
     std::size_t count = 0;
-    if (const int error = state.listing.count(state.path, count)) state.done("listed", error);
+    if (const int error = state.listing.count(*state.files, state.path, count)) state.done("listed", error);
     return static_cast<std::int32_t>(std::min<std::size_t>(count, kMostInt32));
 }
 
@@ -159,6 +151,7 @@ std::uint64_t fileSizeGetter(Object* item, std::int32_t) {
 std::int32_t fileRFSizeGetter(Object* item, std::int32_t) {
     ItemState& state = item_state(item);
     std::uint64_t length = 0;
+    if (state.is_inside()) return 0;
     if (const int error = core::resource_fork_length(state.path, length)) state.done("looked at", error);
     return static_cast<std::int32_t>(std::min<std::uint64_t>(length, kMostInt32));
 }
@@ -187,16 +180,17 @@ void fileLockedSetter(Object* item, std::int32_t, bool locked) {
 bool fileExistsGetter(Object* item, std::int32_t) {
     const ItemState& state = item_state(item);
     struct stat status {};
-    return core::look_at(state.path, state.links, status) == 0;
+    return state.files->look(state.path, state.links, status) == 0;
 }
 bool fileAliasGetter(Object* item, std::int32_t) {
+    const ItemState& state = item_state(item);
     struct stat status {};
-    return core::look_at(item_state(item).path, Links::kItself, status) == 0 && S_ISLNK(status.st_mode);
+    return state.files->look(state.path, Links::kItself, status) == 0 && S_ISLNK(status.st_mode);
 }
 bool fileDirectoryGetter(Object* item, std::int32_t) {
     const ItemState& state = item_state(item);
     struct stat status {};
-    return core::look_at(state.path, state.links, status) == 0 && S_ISDIR(status.st_mode);
+    return state.files->look(state.path, state.links, status) == 0 && S_ISDIR(status.st_mode);
 }
 
 bool fileVisibleGetter(Object* item, std::int32_t) { return !core::name_of(item_state(item).path).starts_with('.'); }
@@ -214,14 +208,14 @@ void fileVisibleSetter(Object* item, std::int32_t, bool visible) {
 String fileTypeGetter(Object* item, std::int32_t) {
     const ItemState& state = item_state(item);
     std::string mac_type;
-    core::read_mac_code(state.path, MacCode::kType, mac_type);
-    return String(core::type_of_file(core::name_of(state.path), mac_type));
+    read_mac_code(state, MacCode::kType, mac_type);
+    return String(core::type_of_file(state.files->name_of(state.path), mac_type));
 }
 
 Ref<Object> folderGetCreation(Object* item, std::int32_t) {
     ItemState& state = item_state(item);
     timespec time{};
-    const int error = core::creation_time(Place(state.path), state.links, time);
+    const int error = state.files->creation_time(state.path, state.links, time);
     if (error != 0 && !state.done("looked at", error)) return nullptr;
     return core::make_date(time);
 }
@@ -237,7 +231,7 @@ Ref<Object> folderGetModified(Object* item, std::int32_t) {
 void folderSetModified(Object* item, std::int32_t, Object* date) {
     ItemState& state = item_state(item);
     const timespec time = core::time_of(date);
-    state.done("given a date", core::set_modification_time(Place(state.path), state.links, time));
+    state.done("given a date", state.files->set_modification_time(state.path, state.links, time));
 }
 
 String fileMacTypeGetter(Object* item, std::int32_t) { return mac_code(item, MacCode::kType); }
@@ -256,7 +250,7 @@ std::int32_t fileVRefNumGetter(Object* item, std::int32_t) {
 std::int32_t fileDirIDGetter(Object* item, std::int32_t) {
     ItemState& state = item_state(item);
     struct stat status {};
-    const int error = core::look_at(std::string(core::folder_of(state.path)), Links::kFollow, status);
+    const int error = state.files->look(std::string(core::folder_of(state.path)), Links::kFollow, status);
     if (error != 0) state.done("looked at", error);
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(status.st_ino));
 }

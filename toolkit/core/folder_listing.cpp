@@ -2,8 +2,6 @@
 
 #include "toolkit/core/file_times.h"
 
-#include <fcntl.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
@@ -33,40 +31,36 @@ bool FolderListing::continues_walk(std::size_t position) const {
     return known_ && position != 0 && position + 1 >= last_ && position <= last_ + 1;
 }
 
-int FolderListing::renew(const std::string& path) {
+int FolderListing::renew(const FileSystem& files, const std::string& path) {
     struct stat status {};
-    if (const int error = look_at(path, Links::kFollow, status)) {
+    if (const int error = files.look(path, Links::kFollow, status)) {
         known_ = false;
         return error;
     }
     if (is_current(status)) return 0;
     known_ = false;
     names_.clear();
-    const Place place(path);
-    if (place.error() != 0) return place.error();
-    const Descriptor folder(::openat(place.folder(), place.name(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!folder || ::fstat(folder.get(), &folder_) != 0) return errno;
+    if (const int error = files.list(path, names_, folder_)) return error;
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
     may_be_old_ = nanoseconds(now) - nanoseconds(change_time(folder_)) < kYoung;
-    if (const int error = read_names(folder, names_)) return error;
     std::ranges::sort(names_);
     known_ = true;
     return 0;
 }
 
-int FolderListing::count(const std::string& path, std::size_t& count) {
+int FolderListing::count(const FileSystem& files, const std::string& path, std::size_t& count) {
     count = 0;
-    if (const int error = renew(path)) return error;
+    if (const int error = renew(files, path)) return error;
     count = names_.size();
     // A walk from either end begins here.
     last_ = count;
     return 0;
 }
 
-int FolderListing::name_at(const std::string& path, std::size_t position, std::string& name) {
+int FolderListing::name_at(const FileSystem& files, const std::string& path, std::size_t position, std::string& name) {
     if (!continues_walk(position)) {
-        if (const int error = renew(path)) return error;
+        if (const int error = renew(files, path)) return error;
     }
     last_ = position;
     if (position >= names_.size()) return ENOENT;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/core/file_place.h"
+#include "toolkit/core/file_system.h"
 
 #include <sys/stat.h>
 #include <time.h>
@@ -15,14 +15,14 @@ namespace tavrik::core {
 // numbers, 0 for none.
 class FolderListing {
 public:
-    int count(const std::string& path, std::size_t& count);
+    int count(const FileSystem& files, const std::string& path, std::size_t& count);
     // The name at a position from 0; ENOENT behind the last. Neighbouring positions, asked for one after the other, are
     // a walk, which keeps to what it began with: a folder may change under it, and none is left out or comes twice.
-    int name_at(const std::string& path, std::size_t position, std::string& name);
+    int name_at(const FileSystem& files, const std::string& path, std::size_t position, std::string& name);
     void forget() { known_ = false; }
 
 private:
-    int renew(const std::string& path);
+    int renew(const FileSystem& files, const std::string& path);
     bool is_current(const struct stat& status) const;
     bool continues_walk(std::size_t position) const;
 

@@ -13,9 +13,6 @@ namespace {
 
 }  // namespace
 
-Ref<Object> FolderItemCreateVirtualVolume(Object*) { raise_missing("VirtualVolume"); }
-Ref<Object> FolderItemOpenAsVirtualVolume(Object*) { raise_missing("VirtualVolume"); }
-Ref<Object> folderVirtVolGetter(Object*, std::int32_t) { raise_missing("VirtualVolume"); }
 Ref<Object> folderOpenResourceFork(Object*) { raise_missing("ResourceFork"); }
 Ref<Object> folderCreateResourceFork(Object*, const String&) { raise_missing("ResourceFork"); }
 Ref<Object> FolderItemOpenAsCursor(Object*) { raise_missing("MouseCursor"); }

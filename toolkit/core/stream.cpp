@@ -128,7 +128,7 @@ void Stream::write(std::string_view bytes) {
 }
 
 void Stream::flush() {
-    if (buffer_.is_open()) note_write(buffer_.flush());
+    if (buffer_.is_open()) note_write(buffer_.keep());
 }
 
 // At the end of an event: nothing is held back, and nothing old is kept.

@@ -149,6 +149,12 @@ int StreamBuffer::flush() {
     return error;
 }
 
+int StreamBuffer::keep() {
+    const int flushed = flush();
+    const int kept = store_->keep();
+    return flushed != 0 ? flushed : kept;
+}
+
 void StreamBuffer::forget_read() {
     if (!is_writing() && !store_->is_sequential()) start_at(position());
 }

@@ -35,6 +35,8 @@ public:
 
     int write(std::string_view bytes);
     int flush();
+    // The same, and the store keeps it for good.
+    int keep();
     // What has been read ahead may be old by now, where others write too.
     void forget_read();
 

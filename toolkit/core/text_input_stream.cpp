@@ -31,10 +31,10 @@ Ref<Object> encoding_for(Object* stream, Object* argument) {
 
 namespace core {
 
-Ref<Object> make_text_input_stream(FileStore file) {
+Ref<Object> make_text_input_stream(std::unique_ptr<ByteStore> store) {
     static ClassRecord* const record = need_class("TextInputStream");
     Ref<Object> stream = RuntimeNewObject(record);
-    stream_of(stream.object()).open(std::make_unique<FileStore>(std::move(file)), 0, room_of(stream.object()));
+    stream_of(stream.object()).open(std::move(store), 0, room_of(stream.object()));
     return stream;
 }
 

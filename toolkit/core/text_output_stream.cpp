@@ -28,9 +28,9 @@ const PropertyRecord& delimiter() {
 
 namespace core {
 
-Ref<Object> make_text_output_stream(FileStore file) {
+Ref<Object> make_text_output_stream(std::unique_ptr<ByteStore> store) {
     Ref<Object> stream = RuntimeNewObject(need_class("TextOutputStream"));
-    stream_of(stream.object()).open(std::make_unique<FileStore>(std::move(file)));
+    stream_of(stream.object()).open(std::move(store));
     return stream;
 }
 

@@ -1,13 +1,15 @@
 #pragma once
 
-#include "toolkit/core/file_store.h"
+#include "toolkit/core/byte_store.h"
 
 #include <tavrik/object.h>
 
+#include <memory>
+
 namespace tavrik::core {
 
-// New streams over an open file.
-Ref<Object> make_text_input_stream(FileStore file);
-Ref<Object> make_text_output_stream(FileStore file);
+// New streams over an open store.
+Ref<Object> make_text_input_stream(std::unique_ptr<ByteStore> store);
+Ref<Object> make_text_output_stream(std::unique_ptr<ByteStore> store);
 
 }  // namespace tavrik::core

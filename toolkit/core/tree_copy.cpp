@@ -21,14 +21,6 @@ constexpr int kFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr int kSource = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 constexpr int kTarget = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
 
-int sync_all(const Descriptor& folder) {
-#ifdef __linux__
-    return ::syncfs(folder.get()) == 0 ? 0 : errno;
-#else
-    return ::fsync(folder.get()) == 0 ? 0 : errno;
-#endif
-}
-
 }  // namespace
 
 Descriptor open_outer(const Descriptor& folder, const struct stat& expected, int& error) {

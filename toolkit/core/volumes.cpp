@@ -2,11 +2,13 @@
 
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/failure.h"
+#include "toolkit/core/folder_item.h"
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/scheduler.h"
 #include "toolkit/volume/choose.h"
 
 #include <tavrik/exception.h>
+#include <tavrik/folder_item.h>
 #include <tavrik/runtime.h>
 #include <tavrik/virtual_volume.h>
 
@@ -71,6 +73,13 @@ Ref<Object> make_opened(const std::string& path, Mode mode, int& error) {
     return nullptr;
 }
 
+Ref<Object> volume_of(Object* item, std::string_view not_done,
+                      Ref<Object> (*open)(const std::string& path, int& error)) {
+    core::ItemState& state = core::item_state(item);
+    if (state.is_refused_inside(not_done)) return nullptr;
+    return open(state.path, state.last_error);
+}
+
 }  // namespace
 
 namespace core {
@@ -87,11 +96,6 @@ Ref<Object> make_virtual_volume(std::shared_ptr<Volume> volume) {
     return object;
 }
 
-Ref<Object> make_folder_item_in(const std::shared_ptr<Volume>& volume, std::string path) {
-    RuntimeRaise("ServiceNotAvailableException",
-                 describe_failure(path.empty() ? volume->path() : path, "given as an item", "items are files outside"));
-}
-
 }  // namespace core
 
 void VirtVolDestructor(Object* volume) { delete std::exchange(volume->native, nullptr); }
@@ -99,7 +103,20 @@ void VirtVolDestructor(Object* volume) { delete std::exchange(volume->native, nu
 Ref<Object> VirtVolRootGetter(Object* volume, std::int32_t) {
     if (volume == nullptr) RaiseNilObjectException();
     if (volume->native == nullptr) return nullptr;
-    return core::make_folder_item_in(native<VolumeState>(volume)->volume, {});
+    return core::make_folder_item_in(core::file_system_of(native<VolumeState>(volume)->volume), "/");
+}
+
+Ref<Object> FolderItemCreateVirtualVolume(Object* item) {
+    return volume_of(item, "made a volume", core::create_virtual_volume);
+}
+
+Ref<Object> FolderItemOpenAsVirtualVolume(Object* item) {
+    return volume_of(item, "opened as a volume", core::open_virtual_volume);
+}
+
+Ref<Object> folderVirtVolGetter(Object* item, std::int32_t) {
+    std::shared_ptr<Volume> volume = core::item_state(item).files->volume();
+    return volume ? core::make_virtual_volume(std::move(volume)) : nullptr;
 }
 
 }  // namespace tavrik

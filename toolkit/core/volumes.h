@@ -17,7 +17,4 @@ Ref<Object> open_virtual_volume(const std::string& path, int& error);
 Ref<Object> create_virtual_volume(const std::string& path, int& error);
 Ref<Object> make_virtual_volume(std::shared_ptr<volume::Volume> volume);
 
-// A new FolderItem for a path inside of a volume.
-Ref<Object> make_folder_item_in(const std::shared_ptr<volume::Volume>& volume, std::string path);
-
 }  // namespace tavrik::core

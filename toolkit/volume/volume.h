@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -69,6 +70,10 @@ public:
     virtual int remove(std::string_view path) = 0;
     virtual int set_mode(std::string_view path, std::uint32_t mode) = 0;
     virtual int set_modified(std::string_view path, std::int64_t seconds) = 0;
+
+    // All that the steps change is stored at once when they return 0; with an error none of it is made. The steps throw
+    // nothing.
+    virtual int change_at_once(const std::function<int()>& steps) = 0;
 };
 
 // kCreate makes a new volume where there is no file, or an empty one.

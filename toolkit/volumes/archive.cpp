@@ -222,17 +222,31 @@ std::unique_ptr<File> Archive::open(std::string_view path, Access access, int& e
 
 int Archive::load(Content& content) {
     if (content.is_changed || (content.is_loaded && content.node == nullptr)) return 0;
-    return attempt([&] {
-        if (content.is_loaded) return;
-        if (content.node == nullptr) throw Failure{ENOENT};
-        const Node& node = *content.node;
-        if (node.size > longest_file_) throw Failure{EFBIG};
-        Statement row(database_, "SELECT data FROM sqlar WHERE rowid = ?", *node.row);
-        if (!row.step()) throw Failure{ENOENT};
-        const std::string_view data = row.bytes(0);
-        content.bytes = data.size() == node.size ? std::string(data) : uncompressed(data, node.size);
-        content.is_loaded = true;
-    });
+    return attempt([&] { read_bytes(content); });
+}
+
+void Archive::read_bytes(Content& content) {
+    if (content.is_loaded) return;
+    if (content.node == nullptr) throw Failure{ENOENT};
+    const Node& node = *content.node;
+    if (node.size > longest_file_) throw Failure{EFBIG};
+    Statement row(database_, "SELECT data FROM sqlar WHERE rowid = ?", *node.row);
+    if (!row.step()) throw Failure{ENOENT};
+    const std::string_view data = row.bytes(0);
+    content.bytes = data.size() == node.size ? std::string(data) : uncompressed(data, node.size);
+    content.is_loaded = true;
+}
+
+// Of a file that is to go: those who have it open read on.
+std::shared_ptr<Content> Archive::open_content(const Node& node) {
+    std::shared_ptr<Content> content = node.content.lock();
+    if (!content) return nullptr;
+    try {
+        read_bytes(*content);
+    } catch (const Failure&) {
+        // What can't be read can be removed all the same.
+    }
+    return content;
 }
 
 int Archive::store(Content& content) {
@@ -321,11 +335,12 @@ int Archive::remove(std::string_view path) {
         if (node.parent == nullptr) throw Failure{EBUSY};
         if (!node.children.empty()) throw Failure{ENOTEMPTY};
         need_owner_write(*node.parent);
+        const std::shared_ptr<Content> content = open_content(node);
         Transaction transaction(database_, is_tree_old_);
         if (node.row) run(database_, "DELETE FROM sqlar WHERE rowid = ?", *node.row);
         touch(*node.parent);
         transaction.commit();
-        if (const std::shared_ptr<Content> content = node.content.lock()) content->node = nullptr;
+        if (content) content->node = nullptr;
         Tree::remove(node);
     });
 }
@@ -373,6 +388,36 @@ int Archive::set_modified(std::string_view path, std::int64_t seconds) {
         transaction.commit();
         node.modified = seconds;
     });
+}
+
+std::vector<std::pair<std::shared_ptr<Content>, std::string>> Archive::paths_of_open_files() const {
+    std::vector<std::pair<std::shared_ptr<Content>, std::string>> paths;
+    for (const auto& weak : open_files_) {
+        const std::shared_ptr<Content> content = weak.lock();
+        if (content && content->node != nullptr) paths.emplace_back(content, path_of(*content->node));
+    }
+    return paths;
+}
+
+int Archive::change_at_once(const std::function<int()>& steps) {
+    std::vector<std::pair<std::shared_ptr<Content>, std::string>> open_before;
+    bool undone = false;
+    const int error = change([&] {
+        open_before = paths_of_open_files();
+        Transaction transaction(database_, undone);
+        if (const int failed = steps()) throw Failure{failed};
+        transaction.commit();
+    });
+    if (!undone) return error;
+    // What was open and had gone is back.
+    is_tree_old_ = true;
+    attempt([&] {
+        for (const auto& [content, path] : open_before) {
+            content->node = tree_.find(path);
+            if (content->node != nullptr) content->node->content = content;
+        }
+    });
+    return error;
 }
 
 }  // namespace tavrik::volume

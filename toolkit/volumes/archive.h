@@ -6,6 +6,7 @@
 #include "toolkit/volumes/volume_file.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,6 +45,7 @@ public:
     int remove(std::string_view path) override;
     int set_mode(std::string_view path, std::uint32_t mode) override;
     int set_modified(std::string_view path, std::int64_t seconds) override;
+    int change_at_once(const std::function<int()>& steps) override;
 
     // Of open files: loads the bytes if need be, and stores them if they have changed.
     int load(Content& content);
@@ -60,6 +62,9 @@ private:
     void refresh();
     Tree read_tree();
     void follow(Tree& tree);
+    void read_bytes(Content& content);
+    std::shared_ptr<Content> open_content(const Node& node);
+    std::vector<std::pair<std::shared_ptr<Content>, std::string>> paths_of_open_files() const;
 
     Node& need(std::string_view path);
     Node& need_folder(std::string_view path);

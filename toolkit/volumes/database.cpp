@@ -103,19 +103,22 @@ std::string_view Statement::text(int column) const {
     return {start, start == nullptr ? 0 : static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column))};
 }
 
-Transaction::Transaction(Database& database, bool& undone) : database_(database), undone_(undone) {
-    database_.execute("BEGIN IMMEDIATE");
+Transaction::Transaction(Database& database, bool& undone)
+    : database_(database), undone_(undone), is_inner_(sqlite3_get_autocommit(database.handle()) == 0) {
+    database_.execute(is_inner_ ? "SAVEPOINT step" : "BEGIN IMMEDIATE");
     undone_ = true;
 }
 
 Transaction::~Transaction() {
     // Some failures have rolled back already.
-    if (undone_ && sqlite3_get_autocommit(database_.handle()) == 0)
-        sqlite3_exec(database_.handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    if (is_done_ || sqlite3_get_autocommit(database_.handle()) != 0) return;
+    const char* const undo = is_inner_ ? "ROLLBACK TO step; RELEASE step" : "ROLLBACK";
+    sqlite3_exec(database_.handle(), undo, nullptr, nullptr, nullptr);
 }
 
 void Transaction::commit() {
-    database_.execute("COMMIT");
+    database_.execute(is_inner_ ? "RELEASE step" : "COMMIT");
+    is_done_ = true;
     undone_ = false;
 }
 

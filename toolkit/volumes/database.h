@@ -73,7 +73,7 @@ void run(Database& database, std::string_view sql, Values... values) {
     Statement(database, sql, values...).step();
 }
 
-// All or nothing. `undone` is true from the start until the commit.
+// All or nothing, also as a step of another one. `undone` is true from the start until the commit.
 class Transaction {
 public:
     Transaction(Database& database, bool& undone);
@@ -86,6 +86,8 @@ public:
 private:
     Database& database_;
     bool& undone_;
+    bool is_inner_;
+    bool is_done_ = false;
 };
 
 }  // namespace tavrik::volume
