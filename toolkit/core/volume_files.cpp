@@ -7,6 +7,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -212,7 +213,7 @@ private:
             const std::string name = take_first_name(rest);
             if (name.empty() || name == ".") continue;
             if (name == "..") {
-                found = inside(folder_of('/' + found));
+                found.resize(found.find('/') == std::string::npos ? 0 : found.rfind('/'));
                 continue;
             }
             std::string next = join(found, name);

@@ -32,7 +32,9 @@ std::string tree_of(const Ref<FolderItem>& folder, const std::string& before = "
         const Ref<FolderItem> item = folder->TrueItem(i);
         const std::string path = before + name_of(item);
         const bool is_folder = item->Directory();
-        lines += path + (item->Alias() ? "@" : is_folder ? "/" : ":" + std::to_string(item->Length())) + ' ';
+        lines += path + (item->Alias() ? "@" : is_folder ? "/" : ":");
+        if (lines.ends_with(':')) lines += std::to_string(item->Length());
+        lines += ' ';
         if (is_folder) lines += tree_of(item, path + '/');
     }
     return lines;
