@@ -14,13 +14,7 @@
 namespace tavrik {
 namespace {
 
-core::Stream& stream_of(Object* object) {
-    if (object == nullptr) RaiseNilObjectException();
-    if (object->native == nullptr) {
-        object->native = new core::Stream(static_cast<BinaryStreamObject*>(object)->window);
-    }
-    return *native<core::Stream>(object);
-}
+core::Stream& stream_of(Object* object) { return core::stream_state<core::Stream, BinaryStreamObject>(object); }
 
 }  // namespace
 

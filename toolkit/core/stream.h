@@ -69,4 +69,12 @@ private:
     std::string failure_;
 };
 
+// What the toolkit keeps with an object of a stream class: `Room` is what the class gives it room for.
+template <class State, class Room>
+State& stream_state(Object* object) {
+    if (object == nullptr) RaiseNilObjectException();
+    if (object->native == nullptr) object->native = new State(static_cast<Room*>(object)->window);
+    return *native<State>(object);
+}
+
 }  // namespace tavrik::core

@@ -13,11 +13,7 @@ namespace {
 std::span<char> room_of(Object* object) { return static_cast<TextInputStreamObject*>(object)->buffer; }
 
 core::TextInput& stream_of(Object* object) {
-    if (object == nullptr) RaiseNilObjectException();
-    if (object->native == nullptr) {
-        object->native = new core::TextInput(static_cast<TextInputStreamObject*>(object)->window);
-    }
-    return *native<core::TextInput>(object);
+    return core::stream_state<core::TextInput, TextInputStreamObject>(object);
 }
 
 // The argument goes before the property.
