@@ -32,7 +32,9 @@
 #include "runtime/exceptions.h"
 #include "runtime/tavrik_module.h"
 #include "ui/control.h"
+#include "ui/mdi_window.h"
 #include "ui/menu_bar.h"
+#include "ui/mouse_cursor.h"
 #include "ui/pane.h"
 #include "ui/push_button.h"
 #include "ui/quit_menu_item.h"
@@ -54,34 +56,34 @@ void build_classes() {
 void initialize() {
     build_classes<Window>();
     _WindowSupport::Windows__Init();
-    build_classes<Pair, MemoryBlock, Date, Dictionary,
+    build_classes<
+        Pair, MemoryBlock, Date, Dictionary,
 
-                  Introspection::ArrayInfo, Introspection::MemberInfo, Introspection::TypeInfo,
-                  Introspection::ValueTypeInfo, Introspection::ClassInfo, Introspection::PrimitiveTypeInfo,
-                  Introspection::PointerTypeInfo, Introspection::StructureInfo, Introspection::EnumInfo,
-                  Introspection::VariantInfo, Introspection::StringInfo, Introspection::PropertyInfo,
-                  Introspection::PropertyInfoImp, Introspection::MethodBase, Introspection::MethodInfo,
-                  Introspection::MethodInfoImp, Introspection::ParameterInfo, Introspection::ParameterInfoImp,
-                  Introspection::ConstructorInfo, Introspection::ConstructorInfoImp, Introspection::AttributeInfo,
+        Introspection::ArrayInfo, Introspection::MemberInfo, Introspection::TypeInfo, Introspection::ValueTypeInfo,
+        Introspection::ClassInfo, Introspection::PrimitiveTypeInfo, Introspection::PointerTypeInfo,
+        Introspection::StructureInfo, Introspection::EnumInfo, Introspection::VariantInfo, Introspection::StringInfo,
+        Introspection::PropertyInfo, Introspection::PropertyInfoImp, Introspection::MethodBase,
+        Introspection::MethodInfo, Introspection::MethodInfoImp, Introspection::ParameterInfo,
+        Introspection::ParameterInfoImp, Introspection::ConstructorInfo, Introspection::ConstructorInfoImp,
+        Introspection::AttributeInfo,
 
-                  MenuBar, MenuItem, QuitMenuItem,
+        MenuBar, MenuItem, QuitMenuItem,
 
-                  EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException,
-                  OutOfBoundsException, OutOfMemoryException, ServiceNotAvailableException, StackOverflowException,
-                  UnsupportedFormatException, ThreadEndException, ThreadAlreadyRunningException, RuntimeException,
-                  NilObjectException, IllegalCastException, InvalidParentException,
+        EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException, OutOfBoundsException,
+        OutOfMemoryException, ServiceNotAvailableException, StackOverflowException, UnsupportedFormatException,
+        ThreadEndException, ThreadAlreadyRunningException, RuntimeException, NilObjectException, IllegalCastException,
+        InvalidParentException,
 
-                  Thread, FolderItem, Permissions, VirtualVolume, Writeable, TextOutputStream, TextInputStream,
-                  Readable, BinaryStream, TextEncoding, Application, OpenDialog, FolderItemDialog, RectControl, Control,
+        Thread, FolderItem, Permissions, VirtualVolume, Writeable, TextOutputStream, TextInputStream, Readable,
+        BinaryStream, MDIWindow, TextEncoding, Application, OpenDialog, FolderItemDialog, RectControl, Control,
 
-                  _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
+        _MouseCursorImp, MouseCursor, _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
 
-                  _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString,
-                  _VariantCString, _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean,
-                  _VariantDouble, _VariantSingle, _VariantString, _VariantUInt64, _VariantInt64, _VariantInt32,
-                  _VariantUInt32, FileType,
+        _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString, _VariantCString,
+        _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean, _VariantDouble,
+        _VariantSingle, _VariantString, _VariantUInt64, _VariantInt64, _VariantInt32, _VariantUInt32, FileType,
 
-                  App, Window1::Window1, MenuBar1::MenuBar1>();
+        App, Window1::Window1, MenuBar1::MenuBar1>();
 }
 
 void finalize() {

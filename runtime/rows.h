@@ -227,6 +227,7 @@ struct FieldAccess {
 // clang-format off
 template <> struct FieldAccess<bool> : PlainAccess<bool, boolGetter, boolSetter> {};
 template <> struct FieldAccess<std::int32_t> : PlainAccess<std::int32_t, intGetter, intSetter> {};
+template <> struct FieldAccess<std::int16_t> : PlainAccess<std::int32_t, shortGetter, shortSetter> {};
 template <> struct FieldAccess<double> : PlainAccess<double, doubleGetter, doubleSetter> {};
 template <> struct FieldAccess<Color> : PlainAccess<Color, get_bits<Color>, set_bits<Color>> {};
 template <> struct FieldAccess<void*> : PlainAccess<void*, get_bits<void*>, set_bits<void*>> {};

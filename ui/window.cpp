@@ -15,6 +15,18 @@ Ref<Object> RuntimeWindowControlByName(Object* window, const String& name) {
     return RuntimeControlReference(window, name);
 }
 
+Ref<Object> RuntimeWindowControlByNameIndex(Object* window, const String& name, std::int32_t index) {
+    return RuntimeControlArrayItemReference(window, name, index);
+}
+
+void Window::set_BalloonHelp(const String& help) {
+    windowBalloonHelpSetter(this, detail::FieldEntry<&Window::mBalloonHelp>::offset(), help);
+}
+
+void Window::set_MouseCursor(Arg<tavrik::MouseCursor> cursor) {
+    formMouseCursorSetter(this, detail::FieldEntry<&Window::mMouseCursor>::offset(), cursor.object());
+}
+
 namespace {
 
 void close_controls(Window* self) {
@@ -40,6 +52,22 @@ void leave_implicit_windows(Window* self) {
     const auto implicit = Ref<Dictionary>::hold(Tavrik::_mImplicitWindowList);
     const Ref<Variant> key = StringToVariant(type->Name());
     if (implicit->Lookup(key, nullptr).object() == self) implicit->Remove(key);
+}
+
+void remove_from_list(Window* self, Arg<Control> control) {
+    const std::int32_t index = self->_mControlList->index_of(control);
+    if (index >= 0) self->_mControlList->remove(index);
+}
+
+void remove_control(Window* self, Arg<Control> control) {
+    const Frame frame(self, control);
+    remove_from_list(self, control);
+    const Ref<ArrayOf<Variant>> keys = self->_mControls->Keys();
+    for (std::int32_t i = 0; i <= keys->upper_bound(); ++i) {
+        const Ref<Variant> name = StringToVariant(VariantToString(keys->at(i).object()));
+        if (self->_mControls->Value(name).object() == control.object()) self->_mControls->Remove(name);
+        RuntimeBackgroundTask();
+    }
 }
 
 bool unified_close(Window* self, bool app_is_quitting) {
@@ -71,14 +99,35 @@ void call_deactivated(Window* self) {
     Tavrik::EnableMenuItems();
 }
 
-void call_moved(Window* self) {
+template <const Event<void()>& Raised>
+void raise(Window* self) {
     const Frame frame(self);
-    Window::Events::Moved.raise(self);
+    Raised.raise(self);
 }
 
-void call_resized(Window* self) {
+bool call_mouse_down(Window* self, std::int32_t x, std::int32_t y) {
     const Frame frame(self);
-    Window::Events::Resized.raise(self);
+    return Window::Events::MouseDown.raise(self, x, y);
+}
+
+void mouse_move(Window* self, std::int32_t x, std::int32_t y) {
+    const Frame frame(self);
+    Window::Events::MouseMove.raise(self, x, y);
+}
+
+void paint(Window* self, Arg<Graphics> graphics) {
+    const Frame frame(self, graphics);
+    Window::Events::Paint.raise(self, graphics);
+}
+
+bool mouse_wheel(Window* self, std::int32_t x, std::int32_t y, std::int32_t delta_x, std::int32_t delta_y) {
+    const Frame frame(self);
+    return Window::Events::MouseWheel.raise(self, x, y, delta_x, delta_y);
+}
+
+bool key_down(Window* self, const String& key) {
+    const Frame frame(self, key);
+    return Window::Events::KeyDown.raise(self, key);
 }
 
 bool handle_menu_command(Window* self, Arg<MenuItem> item) {
@@ -88,26 +137,61 @@ bool handle_menu_command(Window* self, Arg<MenuItem> item) {
 
 constexpr OperationRow kOperations[] = {
     operation<&Window::Show, RuntimeShowWindow>("Show"),
+    operation<&Window::ShowWithin, RuntimeShowWithinWindow>("ShowWithin"),
+    operation<&Window::ShowModalWithin, RuntimeShowModalWithinWindow>("ShowModalWithin"),
     operation<&Window::Hide, RuntimeHideWindow>("Hide"),
     operation<&Window::Close, RuntimeCloseWindow>("Close"),
+    operation<&Window::Refresh, formRefresh>("Refresh"),
+    operation<&Window::RefreshRect, formRefreshRect>("RefreshRect"),
+    operation<&Window::ShowModal, RuntimeShowModal>("ShowModal"),
+    operation<&Window::NewDragItem, formNewDragItem>("NewDragItem"),
+    operation<&Window::AcceptTextDrop, formAcceptTextDrop>("AcceptTextDrop"),
+    operation<&Window::AcceptPictureDrop, formAcceptPictureDrop>("AcceptPictureDrop"),
+    operation<&Window::AcceptFileDrop, formAcceptFileDrop>("AcceptFileDrop"),
+    operation<&Window::AcceptMacDataDrop, formAcceptMacDataDrop>("AcceptMacDataDrop"),
+    operation<&Window::AcceptRawDataDrop, formAcceptMacDataDrop>("AcceptRawDataDrop"),
     operation<&Window::Control, windowControl>("Control"),
+    operation<&Window::SetFocus, formSetFocus>("SetFocus"),
+    operation<&Window::DrawInto, formDrawInto>("DrawInto"),
+    operation<&Window::_DrawBackground, formDrawBackground>("_DrawBackground"),
+    operation<&Window::UpdateNow, WindowForceUpdateFrontBuffer>("UpdateNow"),
     operation<&Window::_AddControl, WindowAddControl>("_AddControl"),
     operation<&Window::_AddMenuHandler, WindowAddMenuHandler>("_AddMenuHandler"),
     operation<&Window::Window_, WindowDefaultConstructor>("Window"),
+    operation<&Window::Operator_Convert, WindowToWindowPtr>("Operator_Convert"),
     operation<&Window::__New, WindowAllocateObject>("__New"),
-    operation<&Window::_CallMoved, call_moved>("_CallMoved"),
+    operation<&Window::_Move, WindowMove>("_Move"),
+    operation<&Window::Maximize, WindowMaximize>("Maximize"),
+    operation<&Window::Minimize, WindowMinimize>("Minimize"),
+    operation<&Window::Restore, WindowRestore>("Restore"),
+    operation<&Window::_Update, no_effect>("_Update"),
+    operation<&Window::_CallMoved, raise<Window::Events::Moved>>("_CallMoved"),
     operation<&Window::_EnableMenuItems, enable_menu_items>("_EnableMenuItems"),
     operation<&Window::_CallActivated, call_activated>("_CallActivated"),
     operation<&Window::_CallDeactivated, call_deactivated>("_CallDeactivated"),
     operation<&Window::_HandleMenuCommand, handle_menu_command>("_HandleMenuCommand"),
     operation<&Window::_UnifiedClose, unified_close>("_UnifiedClose"),
-    operation<&Window::_CallResized, call_resized>("_CallResized"),
+    operation<&Window::_CallMouseDown, call_mouse_down>("_CallMouseDown"),
+    operation<&Window::_CallResized, raise<Window::Events::Resized>>("_CallResized"),
+    operation<&Window::_CallResizing, raise<Window::Events::Resizing>>("_CallResizing"),
+    operation<&Window::_RemoveControl, remove_control>("_RemoveControl"),
+    operation<&Window::_MouseEnter, raise<Window::Events::MouseEnter>>("_MouseEnter"),
+    operation<&Window::_MouseExit, raise<Window::Events::MouseExit>>("_MouseExit"),
+    operation<&Window::_MouseMove, mouse_move>("_MouseMove"),
+    operation<&Window::_Paint, paint>("_Paint"),
+    operation<&Window::_MouseWheel, mouse_wheel>("_MouseWheel"),
+    operation<&Window::_KeyDown, key_down>("_KeyDown"),
     operation<&Window::__DependencyList, no_effect>("__DependencyList").not_public(),
     method<&Window::_GetControl, RuntimeWindowControlByName>("_GetControl"),
+    method<&Window::_GetControlArray, RuntimeWindowControlByNameIndex>("_GetControlArray"),
+    shared<&Window::_UpdateDirtyWindows>("_UpdateDirtyWindows"),
+    shared<&Window::_AddDirtyWindow>("_AddDirtyWindow"),
+    shared<&Window::_RemoveDirtyWindow>("_RemoveDirtyWindow"),
     shared<RuntimeSwapSelfAndMe>("SwapSelfAndMe").not_public(),
 };
 
 constexpr FieldRow kFields[] = {
+    field<&Window::_mImp>("_mImp"),
     field<&Window::_mControls>("_mControls"),
     field<&Window::_mMenuHandlers>("_mMenuHandlers"),
     field<&Window::_mControlList>("_mControlList"),
@@ -136,6 +220,8 @@ constexpr PropertyRow kProperties[] = {
     property<&Window::Frame, &Window::set_Frame>("Frame"),
     stored<&Window::mComposite>("Composite"),
     property<&Window::LiveResize, &Window::set_LiveResize>("LiveResize"),
+    property<&Window::Backdrop, &Window::set_Backdrop>("Backdrop"),
+    property<&Window::Graphics, ignored>("Graphics"),
     property<&Window::HasBackColor, &Window::set_HasBackColor>("HasBackColor"),
     property<&Window::BackColor, &Window::set_BackColor>("BackColor"),
     stored<&Window::mBalloonHelp, windowBalloonHelpSetter>("BalloonHelp"),
@@ -144,8 +230,17 @@ constexpr PropertyRow kProperties[] = {
     property<&Window::MaxWidth, &Window::set_MaxWidth>("MaxWidth"),
     property<&Window::MaxHeight, &Window::set_MaxHeight>("MaxHeight"),
     stored<&Window::mMacProcId>("MacProcId"),
+    stored<&Window::mMouseCursor, formMouseCursorSetter>("MouseCursor"),
     property<&Window::ControlCount>("ControlCount"),
+    stored<&Window::mFloaterProcess>("FloaterProcess"),
+    property<&Window::MouseX>("MouseX"),
+    property<&Window::MouseY>("MouseY"),
+    property<&Window::MacWindowPtr>("MacWindowPtr"),
+    property<&Window::WinHWND>("WinHWND"),
+    property<&Window::Handle>("Handle"),
+    property<&Window::DockItem, ignored>("DockItem"),
     property<&Window::MenuBar, &Window::set_MenuBar>("MenuBar"),
+    property<&Window::Focus, &Window::set_Focus>("Focus"),
 };
 
 constexpr EventRow kEvents[] = {

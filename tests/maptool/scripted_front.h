@@ -35,6 +35,12 @@ struct ShownWindow final : front::WindowFace {
         return button;
     }
     void bring_to_front() override {}
+    void clear_focus() override {}
+    void refresh(const front::Rect*) override {}
+    void update_now() override {}
+    std::optional<front::Point> pointer() override { return std::nullopt; }
+    std::uintptr_t handle() override { return 0; }
+    void set_owner(front::WindowFace*) override {}
     void choose(std::size_t menu, std::size_t entry) { listener.menu_chosen(menus.at(menu).children.at(entry).id); }
 
     ShownWindow*& shown_as;
@@ -51,13 +57,14 @@ struct ScriptedFront final : front::Front {
 
     void run() override { script(*this); }
     void quit() override { ++times_quit; }
-    void pump(bool) override {}
+    bool pump(bool) override { return false; }
     void post(std::function<void()> call) override { call(); }
     void run_threads_in(std::chrono::milliseconds) override {}
     std::unique_ptr<front::WindowFace> make_window(front::WindowListener& listener) override {
         before_window();
         return std::make_unique<ShownWindow>(window, listener);
     }
+    front::Rect available_area() override { return {}; }
     std::size_t show_message(const front::MessageDescription& message, front::WindowFace*) override {
         messages.push_back(message.text);
         when_message();

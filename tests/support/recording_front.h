@@ -18,32 +18,59 @@ public:
 
     std::vector<std::string> messages;
     std::function<void()> when_message = [] {};
+    std::function<void()> when_pumped;  // without it the front has quit
     int quits = 0;
     std::vector<front::FileChoice> choices;  // what the file dialogs were told, and how each is answered
     std::function<std::optional<std::string>(front::WindowFace* over)> when_choice = [](auto*) { return std::nullopt; };
     std::vector<std::chrono::milliseconds> threads_wanted;  // the delays that the front was told
 
-private:
     // Can be shown, and shows nothing.
     class Window final : public front::WindowFace {
-        void apply(const front::WindowDescription&) override {}
+    public:
+        Window(RecordingFront& record, front::WindowListener& told) : listener(told), record_(record) {
+            record.windows.push_back(this);
+        }
+        ~Window() override { std::erase(record_.windows, this); }
+        Window(const Window&) = delete;
+        Window& operator=(const Window&) = delete;
+
+        front::WindowListener& listener;
+        front::WindowDescription description;
+        front::WindowFace* owner = nullptr;
+
+    private:
+        void apply(const front::WindowDescription& window) override { description = window; }
         void apply_menus(std::span<const front::MenuDescription>) override {}
         std::unique_ptr<front::ButtonFace> make_button(front::ButtonListener&) override { return nullptr; }
         void bring_to_front() override {}
-    };
+        void clear_focus() override {}
+        void refresh(const front::Rect*) override {}
+        void update_now() override {}
+        std::optional<front::Point> pointer() override { return std::nullopt; }
+        std::uintptr_t handle() override { return 0; }
+        void set_owner(front::WindowFace* above) override { owner = above; }
 
+        RecordingFront& record_;
+    };
+    std::vector<Window*> windows;  // those with a face, in the order in which they came
+
+private:
     class Front final : public front::Front {
     public:
         explicit Front(RecordingFront& record) : record_(record) {}
 
         void run() override {}
         void quit() override { ++record_.quits; }
-        void pump(bool) override {}
+        bool pump(bool) override {
+            if (const auto what_happens = record_.when_pumped) what_happens();
+            return record_.when_pumped != nullptr;
+        }
         void post(std::function<void()> call) override { call(); }
         void run_threads_in(std::chrono::milliseconds delay) override { record_.threads_wanted.push_back(delay); }
-        std::unique_ptr<front::WindowFace> make_window(front::WindowListener&) override {
-            return std::make_unique<Window>();
+        std::unique_ptr<front::WindowFace> make_window(front::WindowListener& listener) override {
+            return std::make_unique<Window>(record_, listener);
         }
+        front::Rect available_area() override { return {0, 0, 1024, 768}; }
         std::size_t show_message(const front::MessageDescription& message, front::WindowFace*) override {
             record_.messages.push_back(message.text);
             record_.when_message();

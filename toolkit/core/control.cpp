@@ -1,6 +1,7 @@
 #include "toolkit/core/control.h"
 
 #include "toolkit/core/reflection.h"
+#include "toolkit/core/window.h"
 
 #include <tavrik/control.h>
 #include <tavrik/fields.h>
@@ -68,7 +69,9 @@ void ControlClose(Object* control) {
     if (const Ref<Object> pane = core::pane_field.get(control)) core::close_pane(pane.object());
     core::set_window(control, nullptr);
     core::pane_field.set(control, nullptr);
+    Object* const window = state.window();
     state.leave();
+    if (window != nullptr) core::control_has_closed(window, control);
 }
 
 Ref<Object> controlWindowGetter(Object* control, std::int32_t) { return {control_state(control).window()}; }

@@ -1,7 +1,7 @@
 #include "toolkit/core/file_choice.h"
 #include "toolkit/core/file_type.h"
 #include "toolkit/core/program.h"
-#include "toolkit/core/window.h"
+#include "toolkit/core/window_list.h"
 
 #include <tavrik/dialogs.h>
 #include <tavrik/exception.h>

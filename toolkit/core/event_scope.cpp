@@ -4,6 +4,7 @@
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/scheduler.h"
 #include "toolkit/core/streams.h"
+#include "toolkit/core/window.h"
 
 #include <tavrik/exception.h>
 #include <tavrik/runtime.h>
@@ -82,6 +83,7 @@ bool EventScope::inside_event() { return innermost_ != nullptr; }
 void deliver(const std::function<void()>& event) noexcept {
     const EventScope scope;
     guarded(event);
+    guarded(update_dirty_windows);
     guarded(raise_what_releases_left);
     guarded(flush_all_streams);
     for (const std::string& failure : take_unread_stream_failures()) tell_failure(failure);

@@ -3,7 +3,7 @@
 #include "toolkit/core/application.h"
 #include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
-#include "toolkit/core/window.h"
+#include "toolkit/core/window_list.h"
 
 #include <tavrik/array.h>
 #include <tavrik/menu_item.h>

@@ -1,9 +1,10 @@
 #include <tavrik/exception.h>
 #include <tavrik/folder_item.h>
+#include <tavrik/window.h>
 
 #include <string>
 
-// The doors of an item to classes that the program doesn't have.
+// The doors of items and windows to classes that the program doesn't have.
 namespace tavrik {
 namespace {
 
@@ -15,7 +16,6 @@ namespace {
 
 Ref<Object> folderOpenResourceFork(Object*) { raise_missing("ResourceFork"); }
 Ref<Object> folderCreateResourceFork(Object*, const String&) { raise_missing("ResourceFork"); }
-Ref<Object> FolderItemOpenAsCursor(Object*) { raise_missing("MouseCursor"); }
 Ref<Object> FolderItemOpenAsIcons(Object*) { raise_missing("Picture"); }
 Ref<Object> FolderItemOpenImage(Object*) { raise_missing("Picture"); }
 Ref<Object> FolderItemOpenVectorImage(Object*) { raise_missing("Picture"); }
@@ -26,5 +26,16 @@ void FolderItemOpenStyledEditField(Object*, Object*) { raise_missing("EditField"
 void FolderItemSaveStyledEditField(Object*, Object*) { raise_missing("EditField"); }
 void FolderItemSaveAsPicture(Object*, Object*, std::int32_t) { raise_missing("Picture"); }
 void FolderItemSaveAsJPEG(Object*, Object*) { raise_missing("Picture"); }
+
+void formDrawInto(Object*, Object*, std::int32_t, std::int32_t, bool) { raise_missing("Graphics"); }
+void formDrawBackground(Object*, Object*, std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t,
+                        std::int32_t) {
+    raise_missing("Graphics");
+}
+Ref<Object> formNewDragItem(Object*, std::int32_t, std::int32_t, std::int32_t, std::int32_t) {
+    raise_missing("DragItem");
+}
+Ref<Object> windowGraphicsGetter(Object*, std::int32_t) { return nullptr; }
+Ref<Object> WindowDockItemGetter(Object*, std::int32_t) { return nullptr; }
 
 }  // namespace tavrik

@@ -4,7 +4,7 @@
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/scheduler.h"
 #include "toolkit/core/streams.h"
-#include "toolkit/core/window.h"
+#include "toolkit/core/window_list.h"
 #include "toolkit/front/choose.h"
 
 #include <tavrik/runtime.h>

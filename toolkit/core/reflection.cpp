@@ -77,16 +77,32 @@ void set_text_property(Object* object, std::string_view name, const String& valu
                                                                                        value);
 }
 
-String text_property(Object* object, std::string_view name) {
+namespace {
+
+// What the getter of a property gives; nothing, as zero bytes, if the object has none of that name.
+template <class Value>
+Value value_of_property(Object* object, std::string_view name) {
     const PropertyRecord* const property = find_property(object->record, name);
     if (property == nullptr || property->getter == nullptr) return {};
-    return reinterpret_cast<String (*)(Object*, std::int32_t)>(property->getter)(object, property->parameter);
+    return reinterpret_cast<Value (*)(Object*, std::int32_t)>(property->getter)(object, property->parameter);
 }
 
-bool bool_property(Object* object, std::string_view name) {
-    const PropertyRecord* const property = find_property(object->record, name);
-    if (property == nullptr || property->getter == nullptr) return false;
-    return reinterpret_cast<bool (*)(Object*, std::int32_t)>(property->getter)(object, property->parameter);
+}  // namespace
+
+String text_property(Object* object, std::string_view name) { return value_of_property<String>(object, name); }
+bool bool_property(Object* object, std::string_view name) { return value_of_property<bool>(object, name); }
+std::int32_t int_property(Object* object, std::string_view name) {
+    return value_of_property<std::int32_t>(object, name);
+}
+
+Function find_shared(std::string_view class_name, std::string_view method, std::string_view signature) {
+    const ClassRecord* const record = need_class(class_name);
+    for (std::int32_t i = 0; i < record->method_count; ++i) {
+        const MethodRecord& found = record->methods[i];
+        if ((found.flags & kShared) == 0) continue;
+        if (view(found.name) == method && view(found.signature) == signature) return found.function;
+    }
+    raise_missing(class_name, "shared method", method);
 }
 
 std::int32_t find_slot(std::string_view class_name, std::string_view operation, std::string_view signature) {

@@ -22,9 +22,12 @@ const PropertyRecord* find_property_any_case(const ClassRecord* record, std::str
 void set_text_property(Object* object, std::string_view name, const String& value);
 String text_property(Object* object, std::string_view name);
 bool bool_property(Object* object, std::string_view name);
+std::int32_t int_property(Object* object, std::string_view name);
 
 // The slot of the operation as the class declares it; raises FunctionNotFoundException if it has none.
 std::int32_t find_slot(std::string_view class_name, std::string_view operation, std::string_view signature);
+// A shared method of the class; raises FunctionNotFoundException if it has none.
+Function find_shared(std::string_view class_name, std::string_view method, std::string_view signature);
 std::int32_t find_event(std::string_view class_name, std::string_view event);
 std::int32_t find_field(std::string_view class_name, std::string_view field);
 
@@ -49,6 +52,28 @@ private:
     const char* name_;
     const char* signature_;
     std::int32_t slot_ = -1;
+};
+
+template <class Call>
+class SharedOperation;
+
+// A method of a class that takes no object.
+template <class R, class... A>
+class SharedOperation<R(A...)> {
+public:
+    constexpr SharedOperation(const char* class_name, const char* name, const char* signature)
+        : class_name_(class_name), name_(name), signature_(signature) {}
+
+    R operator()(A... arguments) {
+        if (function_ == nullptr) function_ = find_shared(class_name_, name_, signature_);
+        return reinterpret_cast<R (*)(A...)>(function_)(arguments...);
+    }
+
+private:
+    const char* class_name_;
+    const char* name_;
+    const char* signature_;
+    Function function_ = nullptr;
 };
 
 template <class Call>

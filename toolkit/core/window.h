@@ -1,12 +1,14 @@
 #pragma once
 
+#include "toolkit/core/accepted_drops.h"
 #include "toolkit/core/menu_handlers.h"
 #include "toolkit/front/front.h"
 
+#include <tavrik/array.h>
 #include <tavrik/object.h>
 
 #include <memory>
-#include <vector>
+#include <optional>
 
 namespace tavrik::core {
 
@@ -17,60 +19,90 @@ class WindowState final : public NativeState, private front::WindowListener {
 public:
     explicit WindowState(Object* self) : self_(self) {}
 
+    // How the program wants it. The content's bounds are those that it has, or comes back to, in its normal size.
     front::WindowDescription description;
-    std::int32_t frame = 0;
-    bool live_resize = true;
-    bool has_back_color = false;
     std::uint32_t back_color = 0xFFFFFF;
-
+    Ref<Object> backdrop;
+    AcceptedDrops accepted_drops;
     MenuHandlers menu_handlers;
 
     Object* menu_bar() const { return menu_bar_.object(); }
     void set_menu_bar(Object* bar);
 
+    // Where the content is now.
+    front::Rect bounds() const;
+    // These hold the size within the limits, and raise Moved and Resized for what is new.
+    void set_bounds(const front::Rect& wanted);
+    void set_full_screen(bool full_screen);
+    void limits_changed();
+    // Raises the event of the new state.
+    void set_size_state(front::WindowSize wanted);
+
     front::WindowFace* face() const { return face_.get(); }
+    bool is_on_screen() const { return face_ != nullptr && description.visible; }
     // Makes the face at the first showing, with the faces of the controls.
     void show();
     void hide();
     // Tells the face the description anew.
     void changed();
     void menus_changed();
+    // Looks whether the program has written a stored property that the face shows.
+    void look_at_stored_properties();
     // The face goes, the state stays.
     void drop_face();
+
+    // nullptr: it stays above no other window.
+    Object* owner() const { return owner_.object(); }
+    void set_owner(Object* owner);
+    void set_modality(front::Modality modality);
 
     void attach(ControlState& control);
 
     // Once Open has been raised: controls that come later are opened as they come.
     bool opened = false;
+    // Where it is in the close protocol.
+    enum class Closing { kNo, kAsked, kAgreed, kClosed };
+    Closing closing = Closing::kNo;
 
 private:
     void close_requested() override;
     void activated(bool active) override;
     void moved(int left, int top) override;
-    void resized(int width, int height) override;
+    void resized(int width, int height, front::ResizePhase phase) override;
+    void size_state_changed(front::WindowSize now) override;
     void menus_opening() override;
     void menu_chosen(front::MenuId chosen) override;
 
+    template <class Report>
+    void take(Report report);
+
     void make_face();
+    front::WindowDescription described() const;
+    bool fills_screen() const;
+    front::Rect& bounds_now();
+    void tell_bounds(const front::Rect& before);
+    void tell_size_state();
 
     Object* self_;
     Ref<Object> menu_bar_;
+    Ref<Object> owner_;
+    front::Modality modality_ = front::Modality::kNone;
+    std::optional<front::Rect> filled_;         // the bounds while it fills the screen
+    std::optional<front::Rect> before_resize_;  // while the person drags
+    front::WindowSize told_size_state_ = front::WindowSize::kNormal;
     std::unique_ptr<front::WindowFace> face_;
 };
 
 WindowState& window_state(Object* window);
 
-// The windows that have been opened and not closed, the last activated last.
-const std::vector<Ref<Object>>& open_windows();
-// nullptr without a window on the screen.
-Object* frontmost_window();
-front::WindowFace* frontmost_face();
+// Its controls in the order in which they came; nil for a window at its end.
+Ref<ArrayOf<Object>> control_list(Object* window);
+// The names of its controls; nil once it is closed.
+Ref<Object> control_names(Object* window);
+// A control that has closed by itself leaves the window.
+void control_has_closed(Object* window, Object* control);
 
-// Whether the windows may still refuse to close, and what their CancelClose events are told.
-enum class AppIsQuitting { kNo, kYes, kNoMatterWhat };
-
-// Whether the window closed.
-bool close_window(Object* window, AppIsQuitting quitting);
-bool close_all_windows(AppIsQuitting quitting);
+// Lets every window that waits for it update itself. The end of an event.
+void update_dirty_windows();
 
 }  // namespace tavrik::core

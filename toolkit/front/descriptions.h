@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,11 +21,71 @@ struct Rect {
     bool operator==(const Rect&) const = default;
 };
 
+struct Point {
+    int left = 0;
+    int top = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
+enum class CursorShape {
+    kArrow,
+    kIBeam,
+    kCross,
+    kWait,
+    kPointingHand,
+    kOpenHand,
+    kClosedHand,
+    kResizeHorizontal,
+    kResizeVertical,
+    kResizeUpLeft,
+    kResizeUpRight,
+    kResizeAll,
+    kForbidden,
+    kBlank,
+};
+
+struct CursorImage {
+    int width = 0;
+    int height = 0;
+    Point hot_spot;
+    std::vector<std::uint32_t> pixels;  // ARGB, not premultiplied, row by row
+};
+
+// The image where there is one, else the shape.
+struct Cursor {
+    CursorShape shape = CursorShape::kArrow;
+    std::shared_ptr<const CursorImage> image;
+
+    bool operator==(const Cursor&) const = default;
+};
+
 enum class Placement { kDefault, kParent, kMainScreen, kParentScreen, kStagger, kWhereTold };
+
+enum class WindowFrame {
+    kDocument,
+    kMovableModal,
+    kModal,
+    kFloating,
+    kPlain,
+    kShadowed,
+    kRounded,
+    kGlobalFloating,
+    kSheet,
+    kMetal,
+};
+
+enum class WindowSize { kNormal, kMinimized, kMaximized };
+
+// Which windows take no input while this one is shown.
+enum class Modality { kNone, kWindow, kProgram };
 
 struct WindowDescription {
     std::string title;
-    Rect content;  // on the screen; left and top count with Placement::kWhereTold
+    WindowFrame frame = WindowFrame::kDocument;
+    WindowSize size_state = WindowSize::kNormal;
+    Modality modality = Modality::kNone;  // kWindow: the owner and what it lies over
+    Rect content;  // on the screen, while it is of its normal size; left and top count with Placement::kWhereTold
     Placement placement = Placement::kDefault;
     int min_width = 0;
     int min_height = 0;
@@ -37,6 +98,10 @@ struct WindowDescription {
     bool maximize_button = false;
     bool full_screen = false;
     bool menu_bar_visible = true;
+    bool live_resize = true;
+    std::optional<std::uint32_t> background;  // 0xRRGGBB; the desktop's own without one
+    std::string help;
+    std::optional<Cursor> cursor;
 };
 
 struct TextStyle {
@@ -94,13 +159,6 @@ struct MessageDescription {
 struct FileFilter {
     std::string label;                    // what the kind of file is called
     std::vector<std::string> extensions;  // without a dot; any letter case matches
-};
-
-struct Point {
-    int left = 0;
-    int top = 0;
-
-    bool operator==(const Point&) const = default;
 };
 
 struct FileChoice {

@@ -32,13 +32,17 @@ public:
     virtual void set_focus() = 0;
 };
 
+// kUnderWay while the person drags, kDone at the end of that and for any other change.
+enum class ResizePhase { kUnderWay, kDone };
+
 class WindowListener {
 public:
     // The person asked to close the window; the core decides, and destroys the face if it agrees.
     virtual void close_requested() = 0;
     virtual void activated(bool active) = 0;
     virtual void moved(int left, int top) = 0;
-    virtual void resized(int width, int height) = 0;
+    virtual void resized(int width, int height, ResizePhase phase) = 0;
+    virtual void size_state_changed(WindowSize now) = 0;
     // The menus are about to be looked at: the core may apply them anew before it returns.
     virtual void menus_opening() = 0;
     virtual void menu_chosen(MenuId chosen) = 0;
@@ -54,6 +58,17 @@ public:
     virtual void apply_menus(std::span<const MenuDescription> menus) = 0;
     virtual std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) = 0;
     virtual void bring_to_front() = 0;
+    virtual void clear_focus() = 0;
+    // A part of the content, or all of it for nullptr, is to be painted anew.
+    virtual void refresh(const Rect* part) = 0;
+    // Paints what waits for it, at once.
+    virtual void update_now() = 0;
+    // The pointer's place in the content; nothing if there is none.
+    virtual std::optional<Point> pointer() = 0;
+    // What the window system knows the window by; 0 where there is nothing.
+    virtual std::uintptr_t handle() = 0;
+    // The window that this one stays above, or nullptr. Told before the owner's face goes.
+    virtual void set_owner(WindowFace* owner) = 0;
 };
 
 class ApplicationListener {
@@ -74,8 +89,9 @@ public:
     // Dispatches what happens until quit() is called, however deep inside.
     virtual void run() = 0;
     virtual void quit() = 0;
-    // Dispatches what has happened by now, and waits for the first thing to happen if told to.
-    virtual void pump(bool wait) = 0;
+    // Dispatches what has happened by now, and waits for the first thing to happen if told to. False: the front has
+    // quit, and nothing will happen any more.
+    virtual bool pump(bool wait) = 0;
     // Runs `call` on the main thread, inside run() or pump(). The one member that any thread may call.
     virtual void post(std::function<void()> call) = 0;
     // Calls ApplicationListener::run_threads() once, from run(), pump() or a dialog, when so much time has passed and
@@ -83,6 +99,8 @@ public:
     virtual void run_threads_in(std::chrono::milliseconds delay) = 0;
 
     virtual std::unique_ptr<WindowFace> make_window(WindowListener& listener) = 0;
+    // The part of the main screen that windows may cover; empty without a screen.
+    virtual Rect available_area() = 0;
 
     // Modal over `over`, or over the whole program if that is nullptr. Returns the index of the button pressed;
     // closing the box counts as its cancel button.

@@ -33,9 +33,11 @@ struct RecordingWindow final : WindowListener {
     void close_requested() override { record("close"); }
     void activated(bool active) override { record(active ? "active" : "inactive"); }
     void moved(int left, int top) override { record("moved " + std::to_string(left) + ' ' + std::to_string(top)); }
-    void resized(int width, int height) override {
-        record("resized " + std::to_string(width) + ' ' + std::to_string(height));
+    void resized(int width, int height, ResizePhase phase) override {
+        const std::string size = std::to_string(width) + ' ' + std::to_string(height);
+        record((phase == ResizePhase::kUnderWay ? "resizing " : "resized ") + size);
     }
+    void size_state_changed(WindowSize now) override { record("state " + std::to_string(static_cast<int>(now))); }
     void menus_opening() override { record("opening"); }
     void menu_chosen(MenuId chosen) override { record("chosen " + std::to_string(chosen)); }
 

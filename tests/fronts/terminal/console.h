@@ -65,7 +65,8 @@ struct FakeWindow final : WindowListener {
     void close_requested() override {}
     void activated(bool active) override { when_activated(active); }
     void moved(int, int) override {}
-    void resized(int, int) override {}
+    void resized(int, int, ResizePhase) override {}
+    void size_state_changed(WindowSize) override {}
     void menus_opening() override { when_menus_open(); }
     void menu_chosen(MenuId chosen) override { when_chosen(chosen); }
 

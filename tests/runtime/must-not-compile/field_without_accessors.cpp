@@ -4,7 +4,7 @@
 namespace tavrik::wrong {
 
 struct Chime : Class<Chime> {
-    std::int16_t tone;
+    std::int8_t tone;
 };
 constexpr FieldRow kFields[] = {field<&Chime::tone>("tone")};
 

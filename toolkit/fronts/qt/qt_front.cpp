@@ -7,6 +7,7 @@
 
 #include <QAccessible>
 #include <QEventLoop>
+#include <QScreen>
 
 #include <clocale>
 #include <utility>
@@ -67,10 +68,11 @@ void QtFront::quit() {
     for (QEventLoop* const loop : loops_) loop->quit();
 }
 
-void QtFront::pump(bool wait) {
-    if (quitting_) return;
+bool QtFront::pump(bool wait) {
+    if (quitting_) return false;
     if (wait) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QCoreApplication::processEvents(QEventLoop::AllEvents, kLongestPumpMs);
+    return !quitting_;
 }
 
 void QtFront::post(std::function<void()> call) {
@@ -82,6 +84,13 @@ void QtFront::post(std::function<void()> call) {
 
 std::unique_ptr<WindowFace> QtFront::make_window(WindowListener& listener) {
     return std::make_unique<QtWindowFace>(listener);
+}
+
+Rect QtFront::available_area() {
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    if (!screen) return {};
+    const QRect area = screen->availableGeometry();
+    return {area.left(), area.top(), area.width(), area.height()};
 }
 
 std::size_t QtFront::show_message(const MessageDescription& message, WindowFace* over) {

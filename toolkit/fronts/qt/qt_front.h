@@ -23,11 +23,12 @@ public:
 
     void run() override;
     void quit() override;
-    void pump(bool wait) override;
+    bool pump(bool wait) override;
     void post(std::function<void()> call) override;
     void run_threads_in(std::chrono::milliseconds delay) override { threads_.start(delay); }
 
     std::unique_ptr<WindowFace> make_window(WindowListener& listener) override;
+    Rect available_area() override;
 
     std::size_t show_message(const MessageDescription& message, WindowFace* over) override;
     std::optional<std::string> choose_file(const FileChoice& choice, WindowFace* over) override;

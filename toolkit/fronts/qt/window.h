@@ -5,6 +5,8 @@
 #include "toolkit/fronts/qt/menu_tree.h"
 
 #include <QMenuBar>
+#include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 namespace tavrik::front::qt {
@@ -17,6 +19,8 @@ public:
     void apply(const WindowDescription& window);
     void apply_menus(std::span<const MenuDescription> menus);
     void bring_to_front();
+    void clear_focus();
+    void set_owner(Window* owner);
     Content& content() { return *content_; }
 
     // Reports nothing any more, disappears, and is deleted when no event of its own is under way.
@@ -35,11 +39,21 @@ private:
     void apply_menu_bar();
     void apply_size();
     void apply_position();
+    void apply_limits();
+    void apply_looks();
+    void apply_modality();
+    void apply_owner();
+    void apply_states();
     void apply_visibility();
     void place_content(QPoint position);
     int menu_bar_height() const;
     Rect content_on_screen() const;
-    void report_changes();
+    bool fills_screen() const;
+    WindowSize size_state() const;
+    void report_changes(ResizePhase phase);
+    void report_size_state();
+    void end_live_resize();
+    void come_back();
 
     WindowListener* listener_;
     QMenuBar* menu_bar_;
@@ -47,6 +61,9 @@ private:
     MenuTree menus_;
     WindowDescription description_;
     Rect known_;  // where the listener knows the content to be
+    QPointer<Window> owner_;
+    QTimer live_resize_;  // runs while the person drags, and a moment longer
+    QTimer coming_back_;  // runs while it comes from another state than the normal one
     bool was_shown_ = false;
     bool applying_ = false;
 };

@@ -13,6 +13,12 @@ public:
     void apply_menus(std::span<const MenuDescription> menus) override;
     std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) override;
     void bring_to_front() override;
+    void clear_focus() override;
+    void refresh(const Rect* part) override;
+    void update_now() override;
+    std::optional<Point> pointer() override;
+    std::uintptr_t handle() override;
+    void set_owner(WindowFace* owner) override;
 
     Window& window() { return *window_; }
 

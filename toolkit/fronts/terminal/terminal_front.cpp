@@ -46,11 +46,15 @@ public:
 
     void run() override;
     void quit() override;
-    void pump(bool wait) override { turn(wait ? Wait::kForSomething : Wait::kNo, quitting_); }
+    bool pump(bool wait) override {
+        turn(wait ? Wait::kForSomething : Wait::kNo, quitting_);
+        return !quitting_;
+    }
     void post(std::function<void()> call) override { posted_.post(std::move(call)); }
     void run_threads_in(std::chrono::milliseconds delay) override { threads_run_at_ = Clock::now() + delay; }
 
     std::unique_ptr<WindowFace> make_window(WindowListener& listener) override;
+    Rect available_area() override { return {}; }
     std::size_t show_message(const MessageDescription& message, WindowFace* over) override;
     std::optional<std::string> choose_file(const FileChoice& choice, WindowFace* over) override;
 

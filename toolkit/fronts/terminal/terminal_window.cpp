@@ -17,8 +17,9 @@ TerminalWindow::TerminalWindow(WindowListener& listener, std::shared_ptr<WindowS
 TerminalWindow::~TerminalWindow() { stack_->remove(*this); }
 
 void TerminalWindow::apply(const WindowDescription& window) {
-    const bool appears = window.visible && !window_.visible;
+    const bool was_seen = visible() && !minimized();
     window_ = window;
+    const bool appears = visible() && !minimized() && !was_seen;
     if (appears) stack_->raise(*this);
 }
 

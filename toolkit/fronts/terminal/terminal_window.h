@@ -24,9 +24,18 @@ public:
     void apply_menus(std::span<const MenuDescription> menus) override;
     std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) override;
     void bring_to_front() override;
+    void clear_focus() override {}
+    // Each line of input meets a screen that is printed anew.
+    void refresh(const Rect*) override {}
+    void update_now() override {}
+    std::optional<Point> pointer() override { return std::nullopt; }
+    std::uintptr_t handle() override { return 0; }
+    void set_owner(WindowFace*) override {}
 
     WindowListener& listener() const { return listener_; }
     bool visible() const { return window_.visible; }
+    bool minimized() const { return window_.size_state == WindowSize::kMinimized; }
+    bool modal() const { return window_.modality != Modality::kNone; }
     // The entries that can be seen: none while the menu bar is hidden.
     std::vector<MenuEntry> entries() const;
     std::vector<Control*> controls() const;

@@ -20,9 +20,14 @@ void WindowStack::raise(TerminalWindow& window) {
 }
 
 TerminalWindow* WindowStack::frontmost() const {
-    const auto found =
-        std::find_if(windows_.rbegin(), windows_.rend(), [](const auto* each) { return each->visible(); });
-    return found == windows_.rend() ? nullptr : *found;
+    constexpr auto rank = [](const TerminalWindow* window) {
+        if (!window->visible()) return 0;
+        if (window->modal()) return 3;
+        return window->minimized() ? 1 : 2;
+    };
+    const auto found = std::max_element(windows_.rbegin(), windows_.rend(),
+                                        [&](const auto* a, const auto* b) { return rank(a) < rank(b); });
+    return found == windows_.rend() || rank(*found) == 0 ? nullptr : *found;
 }
 
 void WindowStack::report_activation() {

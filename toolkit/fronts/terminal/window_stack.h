@@ -12,7 +12,8 @@ public:
     void add(TerminalWindow& window);
     void remove(TerminalWindow& window);
     void raise(TerminalWindow& window);
-    // The visible window before all others, or nullptr.
+    // The visible window before all others, or nullptr. A modal one comes before those that aren't, and a minimized one
+    // behind those.
     TerminalWindow* frontmost() const;
     // Tells the windows concerned if another one has become the frontmost since the last time. May destroy windows.
     void report_activation();

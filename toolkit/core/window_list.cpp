@@ -1,0 +1,177 @@
+#include "toolkit/core/window_list.h"
+
+#include "toolkit/core/application.h"
+#include "toolkit/core/mdi_window.h"
+#include "toolkit/core/program.h"
+#include "toolkit/core/reflection.h"
+
+#include <tavrik/exception.h>
+#include <tavrik/runtime.h>
+#include <tavrik/window.h>
+
+#include <algorithm>
+#include <string>
+
+namespace tavrik {
+namespace core {
+namespace {
+
+using Closing = WindowState::Closing;
+
+constinit Event<void()> closed_event{"Window", "Close"};
+constinit Operation<bool(bool)> unified_close{"Window", "_UnifiedClose", "%b%b"};
+constinit SharedOperation<void(Object*)> remove_dirty_window{"Window", "_RemoveDirtyWindow", "%%o<Window>"};
+
+std::vector<Ref<Object>>& windows() {
+    static auto* const open = new std::vector<Ref<Object>>;
+    return *open;
+}
+
+// Implicit instances, and the class that was asked for in vain last: its next window is one.
+struct ImplicitWindows {
+    std::string awaited;
+    std::vector<Object*> instances;  // open, so held by windows()
+};
+
+ImplicitWindows& implicit_windows() {
+    static auto* const implicit = new ImplicitWindows;
+    return *implicit;
+}
+
+void note_if_implicit(Object* window) {
+    ImplicitWindows& implicit = implicit_windows();
+    if (implicit.awaited != view(window->record->name)) return;
+    implicit.awaited.clear();
+    implicit.instances.push_back(window);
+}
+
+// At the very end the class layer has let go of its lists, and raises when it finds them gone.
+bool agrees_to_close(Object* window, AppIsQuitting quitting) {
+    if (quitting != AppIsQuitting::kNoMatterWhat) return unified_close(window, quitting == AppIsQuitting::kYes);
+    try {
+        unified_close(window, true);
+    } catch (const RaisedException& raised) {
+        // The controls go before the lists are looked for: while they are there, it was the window's own code.
+        if (control_names(window)) RuntimeUnhandledException(raised.exception.object());
+    }
+    return true;
+}
+
+// What stayed above it stays without it; a modal one that nobody could reach any more is hidden.
+void part_from_owned(Object* window) {
+    const std::vector<Ref<Object>> all = windows();
+    for (const Ref<Object>& other : all) {
+        WindowState& state = window_state(other.object());
+        if (state.owner() == window) state.set_owner(nullptr);
+    }
+}
+
+void end(Object* window) {
+    WindowState& state = window_state(window);
+    state.closing = Closing::kClosed;
+    state.opened = false;
+    part_from_owned(window);
+    state.drop_face();
+    state.set_owner(nullptr);
+    state.set_menu_bar(nullptr);
+    state.backdrop = nullptr;
+    mdi_windows_lose(window);
+    remove_dirty_window(window);
+    std::erase(implicit_windows().instances, window);
+    std::erase(windows(), Ref<Object>(window));
+}
+
+}  // namespace
+
+const std::vector<Ref<Object>>& open_windows() { return windows(); }
+
+bool is_open(Object* window) { return std::ranges::find(windows(), Ref<Object>(window)) != windows().end(); }
+
+void enter_open_windows(Object* window) {
+    windows().emplace_back(window);
+    note_if_implicit(window);
+}
+
+void move_to_front(Object* window) {
+    const Ref<Object> self(window);
+    std::stable_partition(windows().begin(), windows().end(), [&](const Ref<Object>& other) { return other != self; });
+}
+
+Object* frontmost_window() {
+    const auto is_shown = [](const Ref<Object>& window) { return window_state(window.object()).is_on_screen(); };
+    const auto found = std::find_if(windows().rbegin(), windows().rend(), is_shown);
+    return found == windows().rend() ? nullptr : found->object();
+}
+
+front::WindowFace* frontmost_face() {
+    Object* const window = frontmost_window();
+    return window == nullptr ? nullptr : window_state(window).face();
+}
+
+bool close_window(Object* window, AppIsQuitting quitting) {
+    const Ref<Object> kept(window);
+    WindowState& state = window_state(window);
+    if (!is_open(window)) {
+        state.hide();
+        return true;
+    }
+    // From inside its own close protocol: it is being asked, or is on its way already.
+    if (state.closing != Closing::kNo) return state.closing != Closing::kAsked;
+
+    state.closing = Closing::kAsked;
+    try {
+        state.closing = agrees_to_close(window, quitting) ? Closing::kAgreed : Closing::kNo;
+    } catch (...) {
+        state.closing = Closing::kNo;
+        throw;
+    }
+    if (state.closing == Closing::kNo) return false;
+
+    // It has agreed, and is gone at the end whatever its Close event does.
+    Ref<Object> raised;
+    try {
+        closed_event(window);
+    } catch (const RaisedException& exception) {
+        raised = exception.exception;
+    }
+    end(window);
+    if (quitting == AppIsQuitting::kNo && windows().empty() && quits_with_last_window()) quit();
+    if (raised) RuntimeReraiseException(raised.object());
+    return true;
+}
+
+bool close_all_windows(AppIsQuitting quitting) {
+    const std::vector<Ref<Object>> all = windows();
+    return std::all_of(all.rbegin(), all.rend(),
+                       [&](const Ref<Object>& window) { return close_window(window.object(), quitting); });
+}
+
+void give_up_window(Object* window) {
+    const Ref<Object> kept(window);
+    if (!is_open(window)) return;
+    window_state(window).closing = Closing::kAgreed;
+    agrees_to_close(window, AppIsQuitting::kNoMatterWhat);
+    end(window);
+}
+
+void look_at_windows() {
+    for (const Ref<Object>& window : windows()) window_state(window.object()).look_at_stored_properties();
+}
+
+}  // namespace core
+
+using namespace core;
+
+Ref<Object> RuntimeGetImplicitWindow(const String& class_name) {
+    ImplicitWindows& implicit = implicit_windows();
+    for (Object* const window : implicit.instances) {
+        if (window_state(window).closing == Closing::kAgreed) continue;
+        if (view(window->record->name) == class_name.view()) return window;
+    }
+    implicit.awaited = class_name.view();
+    return nullptr;
+}
+
+void RuntimeCloseWindow(Object* window) { close_window(window, AppIsQuitting::kNo); }
+
+}  // namespace tavrik

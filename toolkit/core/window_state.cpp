@@ -1,0 +1,260 @@
+#include "toolkit/core/control.h"
+#include "toolkit/core/event_scope.h"
+#include "toolkit/core/mdi_window.h"
+#include "toolkit/core/menu_item.h"
+#include "toolkit/core/program.h"
+#include "toolkit/core/reflection.h"
+#include "toolkit/core/scheduler.h"
+#include "toolkit/core/window.h"
+#include "toolkit/core/window_list.h"
+
+#include <tavrik/exception.h>
+#include <tavrik/window.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tavrik::core {
+namespace {
+
+constinit Operation<void()> call_activated{"Window", "_CallActivated", "%%"};
+constinit Operation<void()> call_deactivated{"Window", "_CallDeactivated", "%%"};
+constinit Operation<void()> call_moved{"Window", "_CallMoved", "%%"};
+constinit Operation<void()> call_resized{"Window", "_CallResized", "%%"};
+constinit Operation<void()> call_resizing{"Window", "_CallResizing", "%%"};
+constinit Event<void()> minimized{"Window", "Minimize"};
+constinit Event<void()> maximized{"Window", "Maximize"};
+constinit Event<void()> restored{"Window", "Restore"};
+
+template <class Use>
+void for_each_control(Object* window, Use use) {
+    const auto controls = control_list(window);
+    if (!controls) return;
+    for (std::int32_t i = 0; i <= controls->upper_bound(); ++i) use(controls->at(i));
+}
+
+// The least length wins over the greatest.
+int held_within(int length, int least, int greatest) { return std::max({std::min(length, greatest), least, 0}); }
+
+front::Rect held_within_limits(front::Rect content, const front::WindowDescription& window) {
+    content.width = held_within(content.width, window.min_width, window.max_width);
+    content.height = held_within(content.height, window.min_height, window.max_height);
+    return content;
+}
+
+bool is_modal_by_itself(front::WindowFrame frame) {
+    return frame == front::WindowFrame::kModal || frame == front::WindowFrame::kMovableModal;
+}
+
+}  // namespace
+
+WindowState& window_state(Object* window) {
+    if (window == nullptr) RaiseNilObjectException();
+    if (window->native == nullptr) RuntimeCreateWindow(window);
+    return *native<WindowState>(window);
+}
+
+void WindowState::set_menu_bar(Object* bar) {
+    menu_bar_ = Ref<Object>(bar);
+    menus_changed();
+}
+
+bool WindowState::fills_screen() const {
+    return description.full_screen || description.size_state == front::WindowSize::kMaximized;
+}
+
+front::Rect WindowState::bounds() const { return fills_screen() && filled_ ? *filled_ : description.content; }
+
+front::Rect& WindowState::bounds_now() {
+    if (!fills_screen()) return description.content;
+    if (!filled_) filled_ = description.content;
+    return *filled_;
+}
+
+void WindowState::tell_bounds(const front::Rect& before) {
+    const Ref<Object> self(self_);
+    const front::Rect now = bounds();
+    if (opened && (now.left != before.left || now.top != before.top)) call_moved(self_);
+    if (opened && (now.width != before.width || now.height != before.height)) call_resized(self_);
+}
+
+void WindowState::set_bounds(const front::Rect& wanted) {
+    const front::Rect before = bounds();
+    description.content = held_within_limits(wanted, description);
+    changed();
+    tell_bounds(before);
+}
+
+void WindowState::limits_changed() { set_bounds(description.content); }
+
+void WindowState::set_full_screen(bool full_screen) {
+    const front::Rect before = bounds();
+    if (std::exchange(description.full_screen, full_screen) != full_screen) filled_.reset();
+    changed();
+    tell_bounds(before);
+}
+
+void WindowState::set_size_state(front::WindowSize wanted) {
+    if (description.size_state == wanted) return;
+    const Ref<Object> self(self_);
+    const front::Rect before = bounds();
+    description.size_state = wanted;
+    if (!description.full_screen) filled_.reset();
+    changed();
+    tell_size_state();
+    tell_bounds(before);
+}
+
+void WindowState::tell_size_state() {
+    const front::WindowSize now = description.size_state;
+    if (std::exchange(told_size_state_, now) == now || !opened) return;
+    switch (now) {
+        case front::WindowSize::kNormal:
+            return restored(self_);
+        case front::WindowSize::kMinimized:
+            return minimized(self_);
+        case front::WindowSize::kMaximized:
+            return maximized(self_);
+    }
+}
+
+front::WindowDescription WindowState::described() const {
+    front::WindowDescription shown = description;
+    if (shown.title.empty()) shown.title = title_of_untitled_windows();
+    shown.modality = modality_;
+    if (is_modal_by_itself(description.frame)) shown.modality = front::Modality::kProgram;
+    if (description.frame == front::WindowFrame::kSheet && owner_ && modality_ == front::Modality::kNone)
+        shown.modality = front::Modality::kWindow;
+    return shown;
+}
+
+void WindowState::make_face() {
+    face_ = front().make_window(*this);
+    if (owner_) face_->set_owner(window_state(owner_.object()).face());
+    front::WindowDescription hidden = described();
+    hidden.visible = false;
+    face_->apply(hidden);
+    menus_changed();
+    for_each_control(self_, [this](const Ref<Object>& control) { attach(control_state(control.object())); });
+}
+
+void WindowState::attach(ControlState& control) {
+    if (face_) on_main_stack([&] { control.attach(*face_); });
+}
+
+void WindowState::show() {
+    if (closing == Closing::kClosed) return;
+    const Ref<Object> self(self_);
+    description.visible = true;
+    if (!face_) {
+        description.minimize_button = bool_property(self_, "MinimizeButton");
+        on_main_stack([this] { make_face(); });
+    }
+    enable_menu_items(self_);
+    changed();
+}
+
+void WindowState::hide() {
+    description.visible = false;
+    changed();
+}
+
+void WindowState::changed() {
+    if (face_) on_main_stack([this] { face_->apply(described()); });
+}
+
+void WindowState::menus_changed() {
+    if (face_) on_main_stack([this] { face_->apply_menus(describe_menus(menu_bar_.object())); });
+}
+
+void WindowState::look_at_stored_properties() {
+    if (!face_) return;
+    const bool can_minimize = bool_property(self_, "MinimizeButton");
+    if (std::exchange(description.minimize_button, can_minimize) != can_minimize) changed();
+}
+
+void WindowState::drop_face() {
+    for_each_control(self_, [](const Ref<Object>& control) { control_state(control.object()).detach(); });
+    if (face_) on_main_stack([this] { face_.reset(); });
+}
+
+void WindowState::set_owner(Object* owner) {
+    const bool loses_it = owner == nullptr && owner_;
+    owner_ = Ref<Object>(owner);
+    if (face_) {
+        on_main_stack([&] { face_->set_owner(owner == nullptr ? nullptr : window_state(owner).face()); });
+        // Nobody could reach what it is modal to any more.
+        if (loses_it && modality_ == front::Modality::kWindow) return hide();
+        changed();
+    }
+}
+
+void WindowState::set_modality(front::Modality modality) {
+    if (std::exchange(modality_, modality) != modality) changed();
+}
+
+// A report may end the window: its object is kept until the report is over.
+template <class Report>
+void WindowState::take(Report report) {
+    deliver([&] {
+        const Ref<Object> self(self_);
+        report();
+    });
+}
+
+void WindowState::close_requested() {
+    take([this] { close_window(self_, AppIsQuitting::kNo); });
+}
+
+void WindowState::activated(bool active) {
+    take([this, active] {
+        if (active) move_to_front(self_);
+        active ? call_activated(self_) : call_deactivated(self_);
+    });
+}
+
+void WindowState::moved(int left, int top) {
+    take([=, this] {
+        const front::Rect before = bounds();
+        bounds_now().left = left;
+        bounds_now().top = top;
+        tell_bounds(before);
+    });
+}
+
+void WindowState::resized(int width, int height, front::ResizePhase phase) {
+    take([=, this] {
+        const bool under_way = phase == front::ResizePhase::kUnderWay;
+        if (under_way && !before_resize_ && !fills_screen()) before_resize_ = description.content;
+        if (under_way && !description.live_resize) return;
+        bounds_now().width = width;
+        bounds_now().height = height;
+        if (!under_way) before_resize_.reset();
+        under_way ? call_resizing(self_) : call_resized(self_);
+    });
+}
+
+void WindowState::size_state_changed(front::WindowSize now) {
+    take([=, this] {
+        if (description.size_state == now) return;
+        const front::Rect here = bounds();
+        description.size_state = now;
+        filled_.reset();
+        if (now == front::WindowSize::kMaximized) {
+            // A desktop may tell the new size before it tells why.
+            filled_ = here;
+            if (before_resize_) description.content = *std::exchange(before_resize_, std::nullopt);
+        }
+        tell_size_state();
+    });
+}
+
+void WindowState::menus_opening() {
+    take([this] { enable_menu_items(self_); });
+}
+
+void WindowState::menu_chosen(front::MenuId chosen) {
+    take([this, chosen] { choose_menu_item(self_, chosen); });
+}
+
+}  // namespace tavrik::core
