@@ -31,11 +31,14 @@
 #include "maptool/window1.h"
 #include "runtime/exceptions.h"
 #include "runtime/tavrik_module.h"
+#include "ui/apple_menu_item.h"
 #include "ui/control.h"
 #include "ui/mdi_window.h"
 #include "ui/menu_bar.h"
+#include "ui/message_dialog.h"
 #include "ui/mouse_cursor.h"
 #include "ui/pane.h"
+#include "ui/prefs_menu_item.h"
 #include "ui/push_button.h"
 #include "ui/quit_menu_item.h"
 #include "ui/rect_control.h"
@@ -57,6 +60,8 @@ void initialize() {
     build_classes<Window>();
     _WindowSupport::Windows__Init();
     build_classes<
+        _CancelButton, _AlternateActionButton, _ActionButton, MessageDialogButton, MessageDialog,
+
         Pair, MemoryBlock, Date, Dictionary,
 
         Introspection::ArrayInfo, Introspection::MemberInfo, Introspection::TypeInfo, Introspection::ValueTypeInfo,
@@ -67,7 +72,7 @@ void initialize() {
         Introspection::ParameterInfoImp, Introspection::ConstructorInfo, Introspection::ConstructorInfoImp,
         Introspection::AttributeInfo,
 
-        MenuBar, MenuItem, QuitMenuItem,
+        _MenuBarInstaller, MenuBar, MenuItem, PrefsMenuItem, AppleMenuItem, QuitMenuItem,
 
         EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException, OutOfBoundsException,
         OutOfMemoryException, ServiceNotAvailableException, StackOverflowException, UnsupportedFormatException,

@@ -32,6 +32,7 @@ void self_enable(MenuItem* self) {
 
 using TextAndTag = void(const String&, Arg<Variant>);
 using LookUp = Ref<MenuItem>(const String&);
+using PopUpAt = Ref<MenuItem>(std::int32_t, std::int32_t);
 using LookUpArray = Ref<MenuItem>(const String&, std::int32_t);
 
 constexpr OperationRow kOperations[] = {
@@ -49,6 +50,9 @@ constexpr OperationRow kOperations[] = {
     operation<pick<LookUpArray>(&MenuItem::_Lookup), RuntimeMenuItemLookupArray>("_Lookup"),
     operation<pick<void()>(&MenuItem::MenuItem_), RuntimeMenuItemDefaultConstructor>("MenuItem"),
     operation<pick<TextAndTag>(&MenuItem::Constructor), MenuItemConstructor>("Constructor"),
+    operation<pick<Ref<MenuItem>()>(&MenuItem::PopUp), RuntimeMenuItemPopUpByCursor>("PopUp"),
+    operation<pick<PopUpAt>(&MenuItem::PopUp), RuntimeMenuItemPopUp>("PopUp"),
+    operation<&MenuItem::_Swap, RuntimeMenuItemSwap>("_Swap"),
     operation<&MenuItem::_DisableEntirely, disable_entirely>("_DisableEntirely"),
     operation<&MenuItem::_SelfEnable, self_enable>("_SelfEnable"),
     operation<pick<TextAndTag>(&MenuItem::MenuItem_), MenuItemConstructor>("MenuItem"),
@@ -56,22 +60,26 @@ constexpr OperationRow kOperations[] = {
 };
 
 constexpr FieldRow kFields[] = {
-    field<&MenuItem::_mName>("_mName"),
-    field<&MenuItem::_mTag>("_mTag"),
-    field<&MenuItem::_mIndex>("_mIndex"),
-    field<&MenuItem::_mChildren>("_mChildren"),
+    field<&MenuItem::_mImp>("_mImp"),     field<&MenuItem::_mName>("_mName"),         field<&MenuItem::_mTag>("_mTag"),
+    field<&MenuItem::_mIndex>("_mIndex"), field<&MenuItem::_mChildren>("_mChildren"),
 };
 
 constexpr PropertyRow kProperties[] = {
     property<&MenuItem::Name, &MenuItem::set_Name>("Name"),
     property<&MenuItem::Index, &MenuItem::set_Index>("Index"),
     property<&MenuItem::Tag, &MenuItem::set_Tag>("Tag"),
+    property<&MenuItem::BalloonHelp, &MenuItem::set_BalloonHelp>("BalloonHelp"),
+    property<&MenuItem::DisabledBalloonHelp, &MenuItem::set_DisabledBalloonHelp>("DisabledBalloonHelp"),
     property<&MenuItem::Text, &MenuItem::set_Text>("Text"),
     property<&MenuItem::Checked, &MenuItem::set_Checked>("Checked"),
     property<&MenuItem::Enabled, &MenuItem::set_Enabled>("Enabled"),
     property<&MenuItem::Visible, &MenuItem::set_Visible>("Visible"),
     property<&MenuItem::CommandKey, &MenuItem::set_CommandKey>("CommandKey"),
     property<&MenuItem::KeyboardShortcut, &MenuItem::set_KeyboardShortcut>("KeyboardShortcut"),
+    property<&MenuItem::Icon, &MenuItem::set_Icon>("Icon"),
+    property<&MenuItem::_Bold, &MenuItem::set__Bold>("_Bold"),
+    property<&MenuItem::_Italic, &MenuItem::set__Italic>("_Italic"),
+    property<&MenuItem::_Underline, &MenuItem::set__Underline>("_Underline"),
     property<&MenuItem::AutoEnable, &MenuItem::set_AutoEnable>("AutoEnable"),
 };
 

@@ -7,6 +7,8 @@
 namespace tavrik {
 
 struct Dictionary;
+struct Picture;
+struct _MenuItemImp2;
 
 // An entry of a menu, or a menu with entries.
 struct MenuItem : Class<MenuItem> {
@@ -34,6 +36,14 @@ struct MenuItem : Class<MenuItem> {
     void Constructor(const String& text, Arg<Variant> tag) {
         dispatch<pick<void(const String&, Arg<Variant>)>(&MenuItem::Constructor)>(this, text, tag);
     }
+    // Shows the entries at the pointer, or at a place of the screen. Returns the chosen one, which has done what it
+    // does by then, or nil.
+    Ref<MenuItem> PopUp() { return dispatch<pick<Ref<MenuItem>()>(&MenuItem::PopUp)>(this); }
+    Ref<MenuItem> PopUp(std::int32_t left, std::int32_t top) {
+        return dispatch<pick<Ref<MenuItem>(std::int32_t, std::int32_t)>(&MenuItem::PopUp)>(this, left, top);
+    }
+    // Puts an item in the place of the one of that name.
+    void _Swap(const String& name, Arg<MenuItem> item) { dispatch<&MenuItem::_Swap>(this, name, item); }
     // Disables everything below, and this item too unless it is a bar.
     void _DisableEntirely() { dispatch<&MenuItem::_DisableEntirely>(this); }
     void _SelfEnable() { dispatch<&MenuItem::_SelfEnable>(this); }
@@ -48,6 +58,11 @@ struct MenuItem : Class<MenuItem> {
     void set_Index(std::int32_t index) { RuntimeMenuItemIndexSetter(this, 0, index); }
     Ref<Variant> Tag() { return static_ref<Variant>(RuntimeMenuItemTagGetter(this, 0)); }
     void set_Tag(Arg<Variant> tag) { RuntimeMenuItemTagSetter(this, 0, tag.object()); }
+    String BalloonHelp() { return RuntimeMenuItemBalloonHelpGetter(this, 0); }
+    void set_BalloonHelp(const String& help) { RuntimeMenuItemBalloonHelpSetter(this, 0, help); }
+    // Shown while the item is disabled.
+    String DisabledBalloonHelp() { return RuntimeMenuItemDisabledHelpGetter(this, 0); }
+    void set_DisabledBalloonHelp(const String& help) { RuntimeMenuItemDisabledHelpSetter(this, 0, help); }
     String Text() { return RuntimeMenuItemTextGetter(this, 0); }
     void set_Text(const String& text) { RuntimeMenuItemTextSetter(this, 0, text); }
     bool Checked() { return RuntimeMenuItemCheckedGetter(this, 0); }
@@ -61,6 +76,14 @@ struct MenuItem : Class<MenuItem> {
     void set_CommandKey(const String& keys) { RuntimeMenuItemCommandKeySetter(this, 0, keys); }
     String KeyboardShortcut() { return RuntimeMenuItemCommandKeyGetter(this, 0); }
     void set_KeyboardShortcut(const String& keys) { RuntimeMenuItemCommandKeySetter(this, 0, keys); }
+    Ref<Picture> Icon() { return static_ref<Picture>(RuntimeMenuItemEnabledIconGetter(this, 0)); }
+    void set_Icon(Arg<Picture> icon) { RuntimeMenuItemEnabledIconSetter(this, 0, icon.object()); }
+    bool _Bold() { return RuntimeMenuItemBoldGetter(this, 0); }
+    void set__Bold(bool bold) { RuntimeMenuItemBoldSetter(this, 0, bold); }
+    bool _Italic() { return RuntimeMenuItemItalicsGetter(this, 0); }
+    void set__Italic(bool italic) { RuntimeMenuItemItalicsSetter(this, 0, italic); }
+    bool _Underline() { return RuntimeMenuItemUnderlineGetter(this, 0); }
+    void set__Underline(bool underline) { RuntimeMenuItemUnderlineSetter(this, 0, underline); }
     // Whether the item is enabled just when something would happen on choosing it.
     bool AutoEnable() { return RuntimeMenuItemAutoEnableGetter(this, 0); }
     void set_AutoEnable(bool automatic) { RuntimeMenuItemAutoEnableSetter(this, 0, automatic); }
@@ -70,6 +93,7 @@ struct MenuItem : Class<MenuItem> {
         static inline constinit Event<void()> EnableMenu;
     };
 
+    Field<_MenuItemImp2> _mImp;
     StringField _mName;
     Field<Variant> _mTag;
     std::int32_t _mIndex;

@@ -70,6 +70,10 @@ struct ScriptedFront final : front::Front {
         when_message();
         return message.default_button;
     }
+    std::optional<front::MenuId> pop_up(const front::MenuDescription&, std::optional<front::Point>,
+                                        front::WindowFace*) override {
+        return std::nullopt;
+    }
     std::optional<std::string> choose_file(const front::FileChoice& choice, front::WindowFace*) override {
         when_choice(choice);
         return answer;

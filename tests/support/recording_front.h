@@ -19,6 +19,15 @@ public:
     std::vector<std::string> messages;
     std::function<void()> when_message = [] {};
     std::function<void()> when_pumped;  // without it the front has quit
+    // What a person presses in the box; the default button unless told otherwise.
+    std::function<std::size_t(const front::MessageDescription&, front::WindowFace* over)> press =
+        [](auto& message, auto*) { return message.default_button; };
+    std::vector<std::vector<front::MenuDescription>> menus;  // each time that a window was told its menus
+    front::WindowListener* window = nullptr;                 // of the window shown last
+    // What a person chooses of a menu that pops up.
+    std::function<std::optional<front::MenuId>(const front::MenuDescription&, std::optional<front::Point>)>
+        when_popped_up = [](auto&, auto) { return std::nullopt; };
+    std::function<void(std::function<void()>)> when_posted = [](auto call) { call(); };
     int quits = 0;
     std::vector<front::FileChoice> choices;  // what the file dialogs were told, and how each is answered
     std::function<std::optional<std::string>(front::WindowFace* over)> when_choice = [](auto*) { return std::nullopt; };
@@ -40,7 +49,9 @@ public:
 
     private:
         void apply(const front::WindowDescription& window) override { description = window; }
-        void apply_menus(std::span<const front::MenuDescription>) override {}
+        void apply_menus(std::span<const front::MenuDescription> bar) override {
+            record_.menus.emplace_back(bar.begin(), bar.end());
+        }
         std::unique_ptr<front::ButtonFace> make_button(front::ButtonListener&) override { return nullptr; }
         void bring_to_front() override {}
         void clear_focus() override {}
@@ -65,16 +76,21 @@ private:
             if (const auto what_happens = record_.when_pumped) what_happens();
             return record_.when_pumped != nullptr;
         }
-        void post(std::function<void()> call) override { call(); }
+        void post(std::function<void()> call) override { record_.when_posted(std::move(call)); }
         void run_threads_in(std::chrono::milliseconds delay) override { record_.threads_wanted.push_back(delay); }
         std::unique_ptr<front::WindowFace> make_window(front::WindowListener& listener) override {
+            record_.window = &listener;
             return std::make_unique<Window>(record_, listener);
         }
         front::Rect available_area() override { return {0, 0, 1024, 768}; }
-        std::size_t show_message(const front::MessageDescription& message, front::WindowFace*) override {
+        std::size_t show_message(const front::MessageDescription& message, front::WindowFace* over) override {
             record_.messages.push_back(message.text);
             record_.when_message();
-            return message.default_button;
+            return record_.press(message, over);
+        }
+        std::optional<front::MenuId> pop_up(const front::MenuDescription& menu, std::optional<front::Point> at,
+                                            front::WindowFace*) override {
+            return record_.when_popped_up(menu, at);
         }
         std::optional<std::string> choose_file(const front::FileChoice& choice, front::WindowFace* over) override {
             record_.choices.push_back(choice);

@@ -40,6 +40,7 @@ bool quits_with_last_window() {
     return app ? state_of(app.object()).auto_quit : kQuitsWithLastWindow;
 }
 
+Object* application_menu_bar(Object* app) { return state_of(app).menu_bar.object(); }
 const MenuHandlers& application_menu_handlers(Object* app) { return state_of(app).menu_handlers; }
 
 }  // namespace core
@@ -52,7 +53,10 @@ void ApplicationInitializer(Object* app) {
 void ApplicationFinalizer(Object* app) { delete std::exchange(app->native, nullptr); }
 
 Ref<Object> AppMenuBarGetter(Object* app, std::int32_t) { return state_of(app).menu_bar; }
-void AppMenuBarSetter(Object* app, std::int32_t, Object* bar) { state_of(app).menu_bar = Ref<Object>(bar); }
+void AppMenuBarSetter(Object* app, std::int32_t, Object* bar) {
+    state_of(app).menu_bar = Ref<Object>(bar);
+    core::all_menus_changed();
+}
 
 void ApplicationAddMenuHandler(Object* app, const String& item, Function handler) {
     state_of(app).menu_handlers.add(menu_handlers_field.get(app).object(), item, handler);

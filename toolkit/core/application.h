@@ -6,6 +6,8 @@ namespace tavrik::core {
 
 bool quits_with_last_window();
 
+// nullptr for none.
+Object* application_menu_bar(Object* app);
 const MenuHandlers& application_menu_handlers(Object* app);
 
 }  // namespace tavrik::core

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/core/menu_handlers.h"
 #include "toolkit/front/front.h"
 
 #include <tavrik/object.h>
@@ -22,6 +23,7 @@ public:
     std::int32_t tab_index = 0;
     std::string initial_parent;  // the name of the control that this one starts in; "" for the window
     std::string help;
+    MenuHandlers menu_handlers;
 
     Object* self() const { return self_; }
     // nullptr outside of any window.

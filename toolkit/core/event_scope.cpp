@@ -1,5 +1,6 @@
 #include "toolkit/core/event_scope.h"
 
+#include "toolkit/core/menu_item.h"
 #include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/scheduler.h"
@@ -86,6 +87,7 @@ void deliver(const std::function<void()>& event) noexcept {
     guarded(update_dirty_windows);
     guarded(raise_what_releases_left);
     guarded(flush_all_streams);
+    guarded(apply_waiting_menus);
     for (const std::string& failure : take_unread_stream_failures()) tell_failure(failure);
 }
 

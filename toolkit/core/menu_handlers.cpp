@@ -1,13 +1,21 @@
 #include "toolkit/core/menu_handlers.h"
 
+#include "toolkit/core/control.h"
+
 #include <tavrik/dictionary.h>
+#include <tavrik/menu_item.h>
 #include <tavrik/variant.h>
 
-namespace tavrik::core {
+namespace tavrik {
+namespace core {
+
+void MenuHandlers::add(const String& item, Function handler) {
+    handlers_.insert_or_assign(std::string(item.view()), handler);
+}
 
 void MenuHandlers::add(Object* dictionary, const String& item, Function handler) {
     dictionaryValueSetter(dictionary, StringToVariant(item).object(), BooleanToVariant(true).object());
-    handlers_.insert_or_assign(std::string(item.view()), handler);
+    add(item, handler);
 }
 
 bool MenuHandlers::call(Object* owner, std::string_view item) const {
@@ -16,4 +24,10 @@ bool MenuHandlers::call(Object* owner, std::string_view item) const {
     return reinterpret_cast<bool (*)(Object*)>(found->second)(owner);
 }
 
-}  // namespace tavrik::core
+}  // namespace core
+
+void ControlAddMenuHandler(Object* control, const String& item, Function handler) {
+    core::control_state(control).menu_handlers.add(item, handler);
+}
+
+}  // namespace tavrik

@@ -107,9 +107,11 @@ bool has_quit() { return program().has_quit; }
 
 bool quit() { return on_main_stack(quit_from_main_stack); }
 
-std::size_t show_message(const front::MessageDescription& message) {
+std::size_t show_message(const front::MessageDescription& message) { return show_message(message, frontmost_face); }
+
+std::size_t show_message(const front::MessageDescription& message, const std::function<front::WindowFace*()>& over) {
     flush_all_streams();
-    return on_main_stack([&] { return front().show_message(message, frontmost_face()); });
+    return on_main_stack([&] { return front().show_message(message, over()); });
 }
 
 void tell_failure(std::string_view text) {

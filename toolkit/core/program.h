@@ -4,6 +4,7 @@
 
 #include <tavrik/object.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -30,5 +31,7 @@ void tell_failure(std::string_view text);
 // Shows a message box over the frontmost window and returns the index of the button pressed. Everything buffered is in
 // the files before.
 std::size_t show_message(const front::MessageDescription& message);
+// The same over what `over` gives when the box opens, asked on the main stack.
+std::size_t show_message(const front::MessageDescription& message, const std::function<front::WindowFace*()>& over);
 
 }  // namespace tavrik::core

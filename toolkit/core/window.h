@@ -45,9 +45,11 @@ public:
     void hide();
     // Tells the face the description anew.
     void changed();
+    // The face learns of it by the end of the event, apply_menus() tells it at once.
     void menus_changed();
     // Looks whether the program has written a stored property that the face shows.
     void look_at_stored_properties();
+    void apply_menus();
     // The face goes, the state stays.
     void drop_face();
 
@@ -90,6 +92,7 @@ private:
     std::optional<front::Rect> filled_;         // the bounds while it fills the screen
     std::optional<front::Rect> before_resize_;  // while the person drags
     front::WindowSize told_size_state_ = front::WindowSize::kNormal;
+    bool menus_stale_ = false;
     std::unique_ptr<front::WindowFace> face_;
 };
 

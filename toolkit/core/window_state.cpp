@@ -134,7 +134,8 @@ void WindowState::make_face() {
     front::WindowDescription hidden = described();
     hidden.visible = false;
     face_->apply(hidden);
-    menus_changed();
+    menus_stale_ = true;
+    apply_menus();
     for_each_control(self_, [this](const Ref<Object>& control) { attach(control_state(control.object())); });
 }
 
@@ -164,7 +165,14 @@ void WindowState::changed() {
 }
 
 void WindowState::menus_changed() {
-    if (face_) on_main_stack([this] { face_->apply_menus(describe_menus(menu_bar_.object())); });
+    if (!face_) return;
+    menus_stale_ = true;
+    apply_menus_soon();
+}
+
+void WindowState::apply_menus() {
+    if (!std::exchange(menus_stale_, false) || !face_) return;
+    on_main_stack([this] { face_->apply_menus(describe_menus(menu_bar_of(self_))); });
 }
 
 void WindowState::look_at_stored_properties() {

@@ -140,6 +140,9 @@ struct MenuDescription {
     bool enabled = true;
     bool checked = false;
     bool visible = true;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
     std::string help;
     std::vector<MenuDescription> children;
 };
@@ -152,8 +155,8 @@ struct MessageDescription {
     std::string explanation;
     MessageIcon icon = MessageIcon::kNone;
     std::vector<std::string> buttons{"OK"};  // captions, the one that acts first
-    std::size_t default_button = 0;
-    std::size_t cancel_button = 0;
+    std::size_t default_button = 0;          // one that isn't there: none is
+    std::size_t cancel_button = 0;           // one that isn't there: the box is left by its buttons only
 };
 
 struct FileFilter {

@@ -103,8 +103,11 @@ public:
     virtual Rect available_area() = 0;
 
     // Modal over `over`, or over the whole program if that is nullptr. Returns the index of the button pressed;
-    // closing the box counts as its cancel button.
+    // closing the box counts as its cancel button, and so does the end of the program.
     virtual std::size_t show_message(const MessageDescription& message, WindowFace* over) = 0;
+    // Shows the entries of a menu at a place of the screen, or at the pointer, and waits. Nothing if the person chose
+    // nothing.
+    virtual std::optional<MenuId> pop_up(const MenuDescription& menu, std::optional<Point> at, WindowFace* over) = 0;
     // The chosen path, as the bytes the file system has, or nothing if the person cancelled.
     virtual std::optional<std::string> choose_file(const FileChoice& choice, WindowFace* over) = 0;
 };

@@ -17,6 +17,8 @@ TEST(QtShortcut, A_text_names_its_keys_or_is_no_shortcut) {
         {"Shift+Control+Del", Qt::SHIFT | Qt::CTRL | Qt::Key_Delete},
         {"Cmd++", Qt::CTRL | Qt::Key_Plus},
         {"Esc", Qt::Key_Escape},
+        {"s", Qt::CTRL | Qt::Key_S},
+        {"F5", Qt::Key_F5},
     };
     for (const auto& [text, keys] : cases) EXPECT_EQ(to_shortcut(text), keys) << text;
     for (const char* text : {"", "Cmd+", "Cmd", "Hyper+Q", "Cmd+Nowhere", "Cmd+Q, Cmd+W"}) {

@@ -56,6 +56,20 @@ TEST_F(QtMessage, Return_answers_with_the_default_and_Escape_with_the_cancel_but
     EXPECT_EQ(answered_by([](QMessageBox& box) { box.close(); }), 1u);
 }
 
+TEST_F(QtMessage, Without_a_default_or_a_cancel_button_only_a_press_answers) {
+    message.default_button = message.cancel_button = message.buttons.size();
+    show();
+    const auto try_all = [&](QMessageBox& box) {
+        QTest::keyClick(&box, Qt::Key_Return);
+        QTest::keyClick(&box, Qt::Key_Escape);
+        box.close();
+        ASSERT_TRUE(box.isVisible());
+        QTest::mouseClick(&button(box, "Cancel"), Qt::LeftButton);
+    };
+    EXPECT_EQ(answered_by(try_all), 1u);
+    EXPECT_EQ(answered_by([this](QMessageBox&) { front->quit(); }), message.buttons.size());
+}
+
 TEST_F(QtMessage, It_shows_its_texts_as_they_stand_and_lets_them_be_selected) {
     show();
     answered_by([](QMessageBox& box) {

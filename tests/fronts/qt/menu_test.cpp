@@ -80,7 +80,7 @@ TEST_F(QtMenus, A_shortcut_chooses_unless_its_entry_is_disabled) {
     show_menus();
     press_key(Qt::Key_Z, Qt::ControlModifier);
     press_key(Qt::Key_X, Qt::ControlModifier);
-    EXPECT_EQ(reports(), Log{"chosen 20"});
+    EXPECT_EQ(reports(), (Log{"opening", "chosen 20", "opening"}));
 }
 
 TEST_F(QtMenus, Entries_show_what_they_are_told) {
@@ -100,7 +100,7 @@ TEST_F(QtMenus, A_checked_entry_stays_so_until_told_otherwise) {
     menus[1].children[0].checked = true;
     show_menus();
     press_key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(reports(), Log{"chosen 20"});
+    EXPECT_EQ(reports().back(), "chosen 20");
     EXPECT_TRUE(bar().actions()[1]->menu()->actions()[0]->isChecked());
 }
 
@@ -193,6 +193,87 @@ TEST_F(QtMenus, Assistive_technology_reads_the_entries) {
     ASSERT_EQ(menu->childCount(), 2);
     EXPECT_EQ(menu->child(0)->role(), QAccessible::MenuItem);
     EXPECT_EQ(menu->child(1)->text(QAccessible::Name), QStringLiteral("Cut"));
+}
+
+class QtPopUp : public QtMenus {
+protected:
+    // What is chosen of the menu Edit by what `act` does while it is open.
+    std::optional<MenuId> chosen_by(std::function<void(QMenu&)> act) {
+        when_popped_up(std::move(act));
+        return front->pop_up(menus[1], Point{40, 50}, face.get());
+    }
+    void when_popped_up(std::function<void(QMenu&)> act) {
+        front->post([this, act] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            return menu && menu->isVisible() ? act(*menu) : when_popped_up(act);
+        });
+    }
+    static void click_entry(QMenu& menu, int index) {
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(menu.actions().at(index)).center());
+    }
+};
+
+TEST_F(QtPopUp, The_entry_chosen_by_mouse_or_by_key_is_the_answer) {
+    show();
+    EXPECT_EQ(chosen_by([](QMenu& menu) {
+                  EXPECT_EQ(menu.geometry().topLeft(), QPoint(40, 50));
+                  click_entry(menu, 1);
+              }),
+              21U);
+    EXPECT_EQ(chosen_by([](QMenu& menu) {
+                  QTest::keyClick(&menu, Qt::Key_Down);
+                  QTest::keyClick(&menu, Qt::Key_Return);
+              }),
+              20U);
+    EXPECT_EQ(chosen_by([](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_T); }), 21U);
+}
+
+TEST_F(QtPopUp, Escape_a_disabled_entry_the_end_and_a_window_that_goes_choose_nothing) {
+    menus[1].children[1].enabled = false;
+    show();
+    EXPECT_FALSE(chosen_by([](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); }));
+    EXPECT_FALSE(chosen_by([](QMenu& menu) {
+        click_entry(menu, 1);
+        EXPECT_TRUE(menu.isVisible());
+        menu.close();
+    }));
+    EXPECT_FALSE(chosen_by([this](QMenu&) { face.reset(); }));
+    EXPECT_FALSE(chosen_by([this](QMenu&) { front->quit(); }));
+    EXPECT_FALSE(front->pop_up(menus[1], std::nullopt, nullptr)) << "not shown any more";
+}
+
+TEST_F(QtMenus, Entries_take_their_style) {
+    menus[1].children[0].bold = true;
+    menus[1].children[1].italic = menus[1].children[1].underline = true;
+    show_menus();
+    const auto actions = bar().actions()[1]->menu()->actions();
+    EXPECT_TRUE(actions[0]->font().bold());
+    EXPECT_FALSE(actions[0]->font().italic());
+    EXPECT_TRUE(actions[1]->font().italic() && actions[1]->font().underline());
+}
+
+TEST_F(QtMenus, A_shortcut_meets_menus_that_are_up_to_date) {
+    menus[1].children[0].enabled = false;
+    listener.once["opening"] = [this] {
+        menus[1].children[0].enabled = true;
+        apply();
+    };
+    show_menus();
+    press_key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(reports(), (Log{"opening", "chosen 20"}));
+}
+
+TEST_F(QtMenus, A_mnemonic_opens_a_menu_after_a_choice_by_mouse) {
+    show_menus();
+    open(0);
+    click(2);
+    // Offscreen, where no window manager does, nothing else makes the window active again.
+    front->pump(false);
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    press_key(Qt::Key_E, Qt::AltModifier);
+    ASSERT_TRUE(QApplication::activePopupWidget());
+    EXPECT_EQ(&opened(), bar().actions()[1]->menu());
 }
 
 }  // namespace

@@ -150,5 +150,48 @@ TEST(TerminalFront, A_listener_may_destroy_the_face_that_reports_to_it) {
     EXPECT_EQ(other.run("File/Quit\n"), kHelp);
 }
 
+const MenuDescription kContext{
+    .children = {{.id = 1, .text = "Cu&t"},
+                 {.id = 2, .separator = true},
+                 {.id = 3, .text = "More", .children = {{.id = 4, .text = "Sort", .checked = true}}},
+                 {.id = 5, .text = "Paste", .enabled = false}}};
+constexpr const char* kContextText =
+    "1. Cut\n2. Paste (off)\n3. More/Sort (checked)\nNumber or name of an entry, or an empty line for none:\n";
+constexpr const char* kContextHelp = "Type the number or the name of an entry, or an empty line to choose none.\n";
+
+TEST(TerminalFront, A_menu_that_pops_up_takes_a_number_or_a_name_or_an_empty_line) {
+    struct Case {
+        const char* lines;
+        std::optional<MenuId> chosen;
+        std::string answer;
+    };
+    const Case cases[] = {
+        {"1\n", 1, ""},
+        {" more/SORT \r\n", 4, ""},
+        {"\n", std::nullopt, ""},
+        {"", std::nullopt, ""},
+        {"Paste\n3\n", 4, "Paste can't be used now.\n"},
+        {"4\nSort\ncut\n", 1, std::string(kContextHelp) + kContextHelp},
+    };
+    for (const auto& [lines, chosen, answer] : cases) {
+        Program program;
+        program.input.write(lines);
+        program.input.close_write_end();
+        EXPECT_EQ(program.front->pop_up(kContext, Point{1, 2}, program.window.get()), chosen) << lines;
+        EXPECT_EQ(program.output.read(), kContextText + answer) << lines;
+    }
+}
+
+TEST(TerminalFront, A_message_without_a_default_wants_a_caption) {
+    Program program;
+    MessageDescription message = kSave;
+    message.default_button = message.cancel_button = 3;
+    program.input.write("\ndiscard\n");
+    EXPECT_EQ(program.front->show_message(message, nullptr), 1U);
+    EXPECT_EQ(program.output.read(), "Save?\nButtons: Save, Discard, Cancel\nType the caption of a button.\n");
+    program.input.close_write_end();
+    EXPECT_EQ(program.front->show_message(message, nullptr), 3U) << "the end of the input cancels";
+}
+
 }  // namespace
 }  // namespace tavrik::front::terminal

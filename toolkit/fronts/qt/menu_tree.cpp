@@ -4,7 +4,9 @@
 #include "toolkit/fronts/qt/text.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMenu>
+#include <QMenuBar>
 
 #include <algorithm>
 #include <utility>
@@ -35,11 +37,32 @@ bool any_has_help(std::span<const MenuDescription> entries) {
     return std::any_of(entries.begin(), entries.end(), [](const auto& entry) { return !entry.help.empty(); });
 }
 
+QFont font_of(const MenuDescription& entry) {
+    QFont font;
+    if (!entry.bold && !entry.italic && !entry.underline) return font;
+    font = QApplication::font("QMenu");
+    font.setBold(entry.bold);
+    font.setItalic(entry.italic);
+    font.setUnderline(entry.underline);
+    return font;
+}
+
 }  // namespace
 
-MenuTree::MenuTree(QMenuBar& bar, Reports reports) : bar_(bar), reports_(std::move(reports)) {}
+MenuTree::MenuTree(QWidget& root, Reports reports)
+    : root_(root), root_is_bar_(qobject_cast<QMenuBar*>(&root) != nullptr), reports_(std::move(reports)) {}
 
-void MenuTree::apply(std::span<const MenuDescription> menus) { sync(bar_, entries_, menus); }
+void MenuTree::apply(std::span<const MenuDescription> menus) {
+    if (auto* const menu = qobject_cast<QMenu*>(&root_)) menu->setToolTipsVisible(any_has_help(menus));
+    sync(root_, entries_, menus);
+}
+
+bool MenuTree::has_shortcut(const std::vector<Entry>& entries, const QKeySequence& keys) {
+    return std::any_of(entries.begin(), entries.end(), [&](const Entry& entry) {
+        if (entry.menu) return has_shortcut(entry.children, keys);
+        return entry.action && entry.action->shortcut() == keys;
+    });
+}
 
 bool MenuTree::fits(const Entry& entry, const MenuDescription& wanted, bool top_level) {
     return entry.action && entry.id == wanted.id && entry.separator == wanted.separator &&
@@ -81,14 +104,14 @@ MenuTree::Entry MenuTree::make(QWidget& parent, const MenuDescription& wanted) {
 
 MenuTree::Entry MenuTree::make_menu(QWidget& parent, const MenuDescription& wanted) {
     auto* const menu = new QMenu(&parent);
-    if (is_bar(parent)) QObject::connect(menu, &QMenu::aboutToShow, &bar_, reports_.opening);
+    if (is_bar(parent)) QObject::connect(menu, &QMenu::aboutToShow, &root_, reports_.opening);
     return {wanted.id, false, menu->menuAction(), menu, {}};
 }
 
 MenuTree::Entry MenuTree::make_action(QWidget& parent, const MenuDescription& wanted) {
     auto* const action = new QAction(&parent);
     action->setSeparator(wanted.separator);
-    QObject::connect(action, &QAction::triggered, &bar_, [this, action, id = wanted.id] {
+    QObject::connect(action, &QAction::triggered, &root_, [this, action, id = wanted.id] {
         // Qt toggles what is checked; whether it stays so is not for Qt to say.
         action->setChecked(action->isCheckable());
         reports_.chosen(id);
@@ -104,6 +127,7 @@ void MenuTree::update(Entry& entry, const MenuDescription& wanted) {
     action.setText(to_qt(wanted.text));
     action.setEnabled(wanted.enabled);
     action.setMenuRole(role_of(wanted));
+    action.setFont(font_of(wanted));
     action.setStatusTip(to_qt(wanted.help));
     action.setToolTip(as_plain_tool_tip(to_qt(wanted.help)));
     if (entry.menu) {

@@ -2,7 +2,8 @@
 
 #include "toolkit/front/descriptions.h"
 
-#include <QMenuBar>
+#include <QKeySequence>
+#include <QWidget>
 
 #include <functional>
 #include <span>
@@ -13,8 +14,8 @@ class QMenu;
 
 namespace tavrik::front::qt {
 
-// The menus of one menu bar. Entries that stay the same in kind are kept and updated, so the menus can change while
-// one of them is about to open or has just been chosen from.
+// The menus of a menu bar, or the entries of one menu. Entries that stay the same in kind are kept and updated, so the
+// menus can change while one of them is about to open or has just been chosen from.
 class MenuTree {
 public:
     struct Reports {
@@ -22,9 +23,12 @@ public:
         std::function<void(MenuId)> chosen;
     };
 
-    MenuTree(QMenuBar& bar, Reports reports);
+    // `root` is a QMenuBar or a QMenu.
+    MenuTree(QWidget& root, Reports reports);
 
     void apply(std::span<const MenuDescription> menus);
+    // Whether an entry, enabled or not, has this shortcut.
+    bool has_shortcut(const QKeySequence& keys) const { return has_shortcut(entries_, keys); }
 
 private:
     // Qt's tree owns the action and the menu.
@@ -44,9 +48,11 @@ private:
     Entry make_menu(QWidget& parent, const MenuDescription& wanted);
     Entry make_action(QWidget& parent, const MenuDescription& wanted);
     void update(Entry& entry, const MenuDescription& wanted);
-    bool is_bar(const QWidget& parent) const { return &parent == &bar_; }
+    static bool has_shortcut(const std::vector<Entry>& entries, const QKeySequence& keys);
+    bool is_bar(const QWidget& parent) const { return root_is_bar_ && &parent == &root_; }
 
-    QMenuBar& bar_;
+    QWidget& root_;
+    bool root_is_bar_;
     Reports reports_;
     std::vector<Entry> entries_;
 };

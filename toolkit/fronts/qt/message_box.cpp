@@ -28,10 +28,14 @@ QMessageBox::Icon icon_of(const MessageDescription& message) {
     return QMessageBox::NoIcon;
 }
 
+bool has_default(const MessageDescription& message) { return message.default_button < message.buttons.size(); }
+
 // The platform places buttons by their roles.
 QMessageBox::ButtonRole role_of(std::size_t button, const MessageDescription& message) {
-    if (button == 0) return QMessageBox::AcceptRole;
-    return button == message.cancel_button ? QMessageBox::RejectRole : QMessageBox::DestructiveRole;
+    if (button == message.cancel_button && message.buttons.size() > 1) return QMessageBox::RejectRole;
+    if (button != 0) return QMessageBox::DestructiveRole;
+    // Of what accepts Qt makes a default.
+    return has_default(message) ? QMessageBox::AcceptRole : QMessageBox::YesRole;
 }
 
 // Both texts are shown as they are, and can be copied out. The box has no setting for its second label.
@@ -48,7 +52,8 @@ std::vector<QPushButton*> add_buttons(QMessageBox& box, const MessageDescription
     for (std::size_t i = 0; i < message.buttons.size(); ++i) {
         buttons.push_back(box.addButton(to_qt(message.buttons[i]), role_of(i, message)));
     }
-    if (message.default_button < buttons.size()) box.setDefaultButton(buttons[message.default_button]);
+    for (QPushButton* const button : buttons) button->setAutoDefault(has_default(message));
+    if (has_default(message)) box.setDefaultButton(buttons[message.default_button]);
     if (message.cancel_button < buttons.size()) box.setEscapeButton(buttons[message.cancel_button]);
     return buttons;
 }

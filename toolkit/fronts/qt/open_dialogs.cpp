@@ -17,10 +17,20 @@ void OpenDialogs::run(QDialog& dialog) {
     open_.pop_back();
 }
 
+void OpenDialogs::run(QMenu& menu, QPoint place) {
+    open_.emplace_back(&menu);
+    menu.exec(place);
+    open_.pop_back();
+}
+
 void OpenDialogs::cancel_all() {
     const auto open = open_;
-    for (auto dialog = open.rbegin(); dialog != open.rend(); ++dialog) {
-        if (*dialog) (*dialog)->reject();
+    for (auto each = open.rbegin(); each != open.rend(); ++each) {
+        if (auto* const dialog = qobject_cast<QDialog*>(each->data())) {
+            dialog->reject();
+        } else if (*each) {
+            (*each)->close();
+        }
     }
 }
 

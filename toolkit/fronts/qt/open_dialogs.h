@@ -1,24 +1,27 @@
 #pragma once
 
 #include <QDialog>
+#include <QMenu>
 #include <QPointer>
 
 #include <vector>
 
 namespace tavrik::front::qt {
 
-// The dialogs that wait for an answer, so that the end of the program can cancel them.
+// The dialogs and pop-up menus that wait for an answer, so that the end of the program can cancel them.
 class OpenDialogs {
 public:
     // Shows `dialog` modal to its window, or to the whole program if it has none, until it is answered or cancelled,
     // or deleted together with the window.
     void run(QDialog& dialog);
+    // The same for a menu at a place of the screen.
+    void run(QMenu& menu, QPoint place);
 
     // Innermost first.
     void cancel_all();
 
 private:
-    std::vector<QPointer<QDialog>> open_;
+    std::vector<QPointer<QWidget>> open_;
 };
 
 // A dialog that ends with the scope, or before that with the window it is over.

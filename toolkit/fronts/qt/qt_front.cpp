@@ -2,6 +2,7 @@
 
 #include "toolkit/fronts/qt/file_dialog.h"
 #include "toolkit/fronts/qt/message_box.h"
+#include "toolkit/fronts/qt/pop_up.h"
 #include "toolkit/fronts/qt/text.h"
 #include "toolkit/fronts/qt/window_face.h"
 
@@ -96,6 +97,11 @@ Rect QtFront::available_area() {
 std::size_t QtFront::show_message(const MessageDescription& message, WindowFace* over) {
     if (quitting_) return message.cancel_button;
     return qt::show_message(dialogs_, message, visible_window_of(over));
+}
+
+std::optional<MenuId> QtFront::pop_up(const MenuDescription& menu, std::optional<Point> at, WindowFace* over) {
+    if (quitting_) return std::nullopt;
+    return qt::pop_up(dialogs_, menu, at, visible_window_of(over));
 }
 
 std::optional<std::string> QtFront::choose_file(const FileChoice& choice, WindowFace* over) {

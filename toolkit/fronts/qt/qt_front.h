@@ -31,6 +31,7 @@ public:
     Rect available_area() override;
 
     std::size_t show_message(const MessageDescription& message, WindowFace* over) override;
+    std::optional<MenuId> pop_up(const MenuDescription& menu, std::optional<Point> at, WindowFace* over) override;
     std::optional<std::string> choose_file(const FileChoice& choice, WindowFace* over) override;
 
 private:

@@ -58,6 +58,9 @@ QKeySequence to_shortcut(std::string_view text) {
         rest.remove(0, plus + 1);
     }
 
+    const bool bare = modifiers == Qt::KeyboardModifiers() && rest.size() == 1;
+    if (bare && rest.front().isLetterOrNumber()) modifiers = Qt::ControlModifier;
+
     const Qt::Key key = to_key(rest);
     if (key == Qt::Key_unknown || key == Qt::Key(0)) return {};
     return QKeyCombination(modifiers, key);

@@ -6,7 +6,7 @@
 
 namespace tavrik::front::qt {
 
-// Reads "Cmd+Shift+Q"; empty where the text names no key.
+// Reads "Cmd+Shift+Q", and "Q" alone as "Cmd+Q"; empty where the text names no key.
 QKeySequence to_shortcut(std::string_view text);
 
 }  // namespace tavrik::front::qt

@@ -17,8 +17,7 @@
 namespace tavrik::front::qt {
 namespace {
 
-// Without a change for so long, the desktop is done.
-constexpr int kQuietMs = 150;
+constexpr int kEndOfLiveResizeMs = 150;
 constexpr int kRoundedCorner = 12;
 
 // What kind of window a frame is.
@@ -112,8 +111,6 @@ Window::Window(WindowListener& listener)
     menu_bar_->hide();
     live_resize_.setSingleShot(true);
     connect(&live_resize_, &QTimer::timeout, this, &Window::end_live_resize);
-    coming_back_.setSingleShot(true);
-    connect(&coming_back_, &QTimer::timeout, this, &Window::come_back);
 }
 
 void Window::apply(const WindowDescription& window) {
@@ -133,7 +130,7 @@ void Window::apply(const WindowDescription& window) {
     apply_size();
     apply_position();
     apply_visibility();
-    if (comes_back) coming_back_.start(kQuietMs);
+    if (comes_back) come_back();
     // What filling the screen makes of it is for the desktop to say, and for the listener to hear.
     if (!fills_screen()) {
         known_ = content_on_screen();
@@ -169,13 +166,17 @@ void Window::set_owner(Window* owner) {
 void Window::retire() {
     listener_ = nullptr;
     live_resize_.stop();
-    coming_back_.stop();
     content_->retire();
     hide();
     deleteLater();
 }
 
 bool Window::event(QEvent* event) {
+    // What a shortcut chooses may have become possible, or impossible, since the menus were last looked at.
+    if (event->type() == QEvent::ShortcutOverride && listener_) {
+        const QKeyCombination keys = static_cast<QKeyEvent*>(event)->keyCombination();
+        if (menus_.has_shortcut(QKeySequence(keys))) listener_->menus_opening();
+    }
     // The height of the menu bar follows the desktop's font and style; the content keeps its size.
     if (event->type() != QEvent::LayoutRequest) return QWidget::event(event);
     const QScopedValueRollback applying(applying_, true);
@@ -219,8 +220,8 @@ void Window::resizeEvent(QResizeEvent* event) {
         setMask(outline.toFillPolygon().toPolygon());
     }
     // What comes from the desktop is a drag until it has been quiet for a moment: nothing tells its end.
-    const bool by_person = event->spontaneous() && !fills_screen() && !coming_back_.isActive();
-    if (by_person) live_resize_.start(kQuietMs);
+    const bool by_person = event->spontaneous() && !fills_screen() && !coming_back_;
+    if (by_person) live_resize_.start(kEndOfLiveResizeMs);
     report_changes(by_person ? ResizePhase::kUnderWay : ResizePhase::kDone);
 }
 
@@ -332,14 +333,19 @@ WindowSize Window::size_state() const {
 
 // A desktop brings back the size that the window had when it left it, which may not be the one that it is to have now.
 void Window::come_back() {
-    const QScopedValueRollback applying(applying_, true);
-    apply_size();
-    if (!fills_screen()) known_ = content_on_screen();
+    coming_back_ = true;
+    const auto arrive = [this] {
+        coming_back_ = false;
+        const QScopedValueRollback applying(applying_, true);
+        apply_size();
+        if (!fills_screen()) known_ = content_on_screen();
+    };
+    QMetaObject::invokeMethod(this, arrive, Qt::QueuedConnection);
 }
 
 void Window::report_size_state() {
     const WindowSize now = size_state();
-    if (applying_ || coming_back_.isActive() || !listener_ || now == description_.size_state) return;
+    if (applying_ || coming_back_ || !listener_ || now == description_.size_state) return;
     description_.size_state = now;
     {
         const QScopedValueRollback applying(applying_, true);
@@ -351,7 +357,7 @@ void Window::report_size_state() {
 }
 
 void Window::report_changes(ResizePhase phase) {
-    if (applying_ || coming_back_.isActive() || !listener_) return;
+    if (applying_ || coming_back_ || !listener_) return;
     const Rect before = known_;
     const Rect now = known_ = content_on_screen();
     if (!fills_screen()) description_.content = now;

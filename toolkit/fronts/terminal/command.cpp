@@ -50,6 +50,12 @@ const MenuEntry* find_entry(std::string_view words, std::span<const MenuEntry> e
     return best_match(entries, [&](const MenuEntry& each) { return names(words, each.path()); });
 }
 
+const MenuEntry* find_numbered_entry(std::string_view words, std::span<const MenuEntry> entries) {
+    const auto number = number_in(trimmed(words));
+    if (number && *number >= 1 && *number <= entries.size()) return &entries[*number - 1];
+    return find_entry(words, entries);
+}
+
 std::optional<std::size_t> find_caption(std::string_view words, std::span<const std::string> captions) {
     words = trimmed(words);
     for (std::size_t index = 0; index < captions.size(); ++index) {

@@ -18,6 +18,9 @@ std::optional<std::size_t> find_control(std::string_view words, std::span<const 
 // The entry by its whole path, "Menu/Entry", by the same rule where two have the same path; nullptr: none has it.
 const MenuEntry* find_entry(std::string_view words, std::span<const MenuEntry> entries);
 
+// The same, or by its number from 1 on, which wins.
+const MenuEntry* find_numbered_entry(std::string_view words, std::span<const MenuEntry> entries);
+
 // The index of a message's button, by its caption.
 std::optional<std::size_t> find_caption(std::string_view words, std::span<const std::string> captions);
 

@@ -16,7 +16,8 @@ void collect(const MenuDescription& menu, const std::string& path, bool enabled,
     }
     for (const MenuDescription& item : menu.children) {
         if (!is_shown(item) || item.children.empty()) continue;
-        collect(item, path + '/' + printed_caption(item.text), enabled && item.enabled, entries);
+        const std::string inside = (path.empty() ? path : path + '/') + printed_caption(item.text);
+        collect(item, inside, enabled && item.enabled, entries);
     }
 }
 
@@ -27,6 +28,12 @@ std::vector<MenuEntry> menu_entries(std::span<const MenuDescription> menu_bar) {
     for (const MenuDescription& menu : menu_bar) {
         if (is_shown(menu)) collect(menu, printed_caption(menu.text), menu.enabled, entries);
     }
+    return entries;
+}
+
+std::vector<MenuEntry> entries_of_menu(const MenuDescription& menu) {
+    std::vector<MenuEntry> entries;
+    collect(menu, {}, true, entries);
     return entries;
 }
 

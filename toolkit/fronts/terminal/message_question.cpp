@@ -12,7 +12,8 @@ MessageQuestion::MessageQuestion(const MessageDescription& message)
 std::string MessageQuestion::text() const { return message_text(message_); }
 
 std::string MessageQuestion::take(std::string line) {
-    if (trimmed(line).empty()) {
+    const bool has_default = message_.default_button < message_.buttons.size();
+    if (has_default && trimmed(line).empty()) {
         press(message_.default_button);
         return {};
     }
@@ -20,7 +21,8 @@ std::string MessageQuestion::take(std::string line) {
         press(*button);
         return {};
     }
-    return "Type the caption of a button, or an empty line for the default one.\n";
+    return has_default ? "Type the caption of a button, or an empty line for the default one.\n"
+                       : "Type the caption of a button.\n";
 }
 
 void MessageQuestion::press(std::size_t button) {

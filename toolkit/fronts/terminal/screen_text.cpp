@@ -71,6 +71,14 @@ std::string window_text(const WindowView& window) {
     return text;
 }
 
+std::string menu_text(std::span<const MenuEntry> entries) {
+    std::string text;
+    for (std::size_t index = 0; index < entries.size(); ++index) {
+        text += std::to_string(index + 1) + ". " + entries[index].path() + marks(entries[index]) + '\n';
+    }
+    return text + "Number or name of an entry, or an empty line for none:\n";
+}
+
 std::string message_text(const MessageDescription& message) {
     std::string text = title_line(message.title) + paragraph(message.text) + paragraph(message.explanation);
     std::string_view separator = "Buttons: ";

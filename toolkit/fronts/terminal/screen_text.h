@@ -2,12 +2,14 @@
 
 #include "toolkit/fronts/terminal/window_view.h"
 
+#include <span>
 #include <string>
 
 // What is in front as the lines that are printed of it, each with its line end.
 namespace tavrik::front::terminal {
 
 std::string window_text(const WindowView& window);
+std::string menu_text(std::span<const MenuEntry> entries);
 std::string message_text(const MessageDescription& message);
 std::string file_choice_text(const FileChoice& choice);
 

@@ -4,6 +4,7 @@
 #include "toolkit/fronts/terminal/descriptor.h"
 #include "toolkit/fronts/terminal/file_question.h"
 #include "toolkit/fronts/terminal/line_reader.h"
+#include "toolkit/fronts/terminal/menu_question.h"
 #include "toolkit/fronts/terminal/message_question.h"
 #include "toolkit/fronts/terminal/output.h"
 #include "toolkit/fronts/terminal/posted_calls.h"
@@ -56,6 +57,7 @@ public:
     std::unique_ptr<WindowFace> make_window(WindowListener& listener) override;
     Rect available_area() override { return {}; }
     std::size_t show_message(const MessageDescription& message, WindowFace* over) override;
+    std::optional<MenuId> pop_up(const MenuDescription& menu, std::optional<Point> at, WindowFace* over) override;
     std::optional<std::string> choose_file(const FileChoice& choice, WindowFace* over) override;
 
 private:
@@ -175,6 +177,12 @@ std::size_t TerminalFront::show_message(const MessageDescription& message, Windo
     MessageQuestion question(message);
     ask(question);
     return question.pressed();
+}
+
+std::optional<MenuId> TerminalFront::pop_up(const MenuDescription& menu, std::optional<Point>, WindowFace*) {
+    MenuQuestion question(menu);
+    ask(question);
+    return question.chosen();
 }
 
 std::optional<std::string> TerminalFront::choose_file(const FileChoice& choice, WindowFace*) {

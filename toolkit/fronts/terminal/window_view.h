@@ -16,12 +16,12 @@ struct ControlView {
 
 struct MenuEntry {
     MenuId id = 0;
-    std::string menu;  // "Edit", or "Edit/Find" for a menu inside a menu
+    std::string menu;  // "Edit", or "Edit/Find" for a menu inside a menu; "" in a menu that stands by itself
     std::string text;
     bool enabled = true;
     bool checked = false;
 
-    std::string path() const { return menu + '/' + text; }
+    std::string path() const { return menu.empty() ? text : menu + '/' + text; }
 };
 
 struct WindowView {
