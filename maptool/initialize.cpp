@@ -11,6 +11,7 @@
 #include "data/open_dialog.h"
 #include "data/pair.h"
 #include "data/permissions.h"
+#include "data/pollable.h"
 #include "data/streams.h"
 #include "data/text_encoding.h"
 #include "data/text_input_stream.h"
@@ -80,7 +81,7 @@ void initialize() {
         InvalidParentException,
 
         Thread, FolderItem, Permissions, VirtualVolume, Writeable, TextOutputStream, TextInputStream, Readable,
-        BinaryStream, MDIWindow, TextEncoding, Application, OpenDialog, FolderItemDialog, RectControl, Control,
+        BinaryStream, MDIWindow, TextEncoding, _Pollable, Application, OpenDialog, FolderItemDialog, RectControl, Control,
 
         _MouseCursorImp, MouseCursor, _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
 

@@ -1,5 +1,6 @@
 #include "maptool/initialize.h"
 #include "maptool/start.h"
+#include "maptool/version.h"
 
 #include <tavrik/runtime.h>
 
@@ -7,6 +8,7 @@
 
 int main() {
     tavrik::RuntimeInit();
+    tavrik::RuntimeSetVersion(tavrik::maptool::kVersion);
     tavrik::initialize();
     tavrik::_Main();
     tavrik::finalize();

@@ -5,12 +5,13 @@ source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 in_the_terminal=(env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM)
 as_the_person=()
+arguments=()
 
 # play LINE...: runs the tool to the end of these lines. What it prints is in `said`.
 play() {
     local status=0
     printf '%s\n' "$@" |
-        "${in_the_terminal[@]}" timeout "$limit_s" "${as_the_person[@]}" "$tool" >said 2>errors || status=$?
+        "${in_the_terminal[@]}" timeout "$limit_s" "${as_the_person[@]}" "$tool" "${arguments[@]}" >said 2>errors || status=$?
     [[ $status -eq 0 ]] || fail "the tool ended with status $status"
     [[ ! -s errors ]] || fail "the tool has written to standard error"
 }
@@ -23,6 +24,13 @@ expect_said() {
 }
 
 identity() { stat -c 'inode %i, %h links, %s bytes, mode %a' "$1"; }
+
+A_document_that_the_desktop_passes_is_left_alone() {
+    make_map valley.map 2980 4666
+    arguments=(valley.map "file://$PWD/valley.map" missing.map)
+    play 'File/Quit'
+    expect_bytes valley.map
+}
 
 A_load_alone_changes_nothing() {
     local state time_before

@@ -59,7 +59,9 @@ struct ScriptedFront final : front::Front {
     void quit() override { ++times_quit; }
     bool pump(bool) override { return false; }
     void post(std::function<void()> call) override { call(); }
-    void run_threads_in(std::chrono::milliseconds) override {}
+    void wake_in(std::chrono::milliseconds) override {}
+    void set_cursor(std::optional<front::Cursor>) override {}
+    void set_help_visible(bool) override {}
     std::unique_ptr<front::WindowFace> make_window(front::WindowListener& listener) override {
         before_window();
         return std::make_unique<ShownWindow>(window, listener);

@@ -18,7 +18,6 @@ public:
 
     std::vector<std::string> messages;
     std::function<void()> when_message = [] {};
-    std::function<void()> when_pumped;  // without it the front has quit
     // What a person presses in the box; the default button unless told otherwise.
     std::function<std::size_t(const front::MessageDescription&, front::WindowFace* over)> press =
         [](auto& message, auto*) { return message.default_button; };
@@ -31,7 +30,11 @@ public:
     int quits = 0;
     std::vector<front::FileChoice> choices;  // what the file dialogs were told, and how each is answered
     std::function<std::optional<std::string>(front::WindowFace* over)> when_choice = [](auto*) { return std::nullopt; };
-    std::vector<std::chrono::milliseconds> threads_wanted;  // the delays that the front was told
+    std::vector<std::chrono::milliseconds> wake_ups;  // the delays that the front was told
+    std::function<void()> when_run = [] {};
+    std::function<void(bool wait)> when_pumped;  // without it the front has quit
+    std::optional<front::Cursor> cursor;
+    bool help_visible = true;
 
     // Can be shown, and shows nothing.
     class Window final : public front::WindowFace {
@@ -70,14 +73,16 @@ private:
     public:
         explicit Front(RecordingFront& record) : record_(record) {}
 
-        void run() override {}
+        void run() override { record_.when_run(); }
         void quit() override { ++record_.quits; }
-        bool pump(bool) override {
-            if (const auto what_happens = record_.when_pumped) what_happens();
+        bool pump(bool wait) override {
+            if (const auto what_happens = record_.when_pumped) what_happens(wait);
             return record_.when_pumped != nullptr;
         }
         void post(std::function<void()> call) override { record_.when_posted(std::move(call)); }
-        void run_threads_in(std::chrono::milliseconds delay) override { record_.threads_wanted.push_back(delay); }
+        void wake_in(std::chrono::milliseconds delay) override { record_.wake_ups.push_back(delay); }
+        void set_cursor(std::optional<front::Cursor> cursor) override { record_.cursor = std::move(cursor); }
+        void set_help_visible(bool visible) override { record_.help_visible = visible; }
         std::unique_ptr<front::WindowFace> make_window(front::WindowListener& listener) override {
             record_.window = &listener;
             return std::make_unique<Window>(record_, listener);

@@ -1,5 +1,6 @@
 #include "toolkit/core/event_scope.h"
 
+#include "toolkit/core/main_thread.h"
 #include "toolkit/core/menu_item.h"
 #include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
@@ -10,6 +11,7 @@
 #include <tavrik/exception.h>
 #include <tavrik/runtime.h>
 
+#include <ctime>
 #include <exception>
 
 namespace tavrik::core {
@@ -54,6 +56,17 @@ void guarded(const std::function<void()>& step) noexcept {
     }
 }
 
+std::int32_t ticks_now() {
+#if defined(CLOCK_BOOTTIME)
+    constexpr clockid_t kSinceStart = CLOCK_BOOTTIME;
+#else
+    constexpr clockid_t kSinceStart = CLOCK_MONOTONIC;
+#endif
+    timespec time{};
+    ::clock_gettime(kSinceStart, &time);
+    return static_cast<std::int32_t>(time.tv_sec * 60 + time.tv_nsec * 60 / 1'000'000'000);
+}
+
 void raise_what_releases_left() {
     if (runtime_release_exception != nullptr) RuntimeReraiseException(RuntimeTakeReleaseException().object());
 }
@@ -61,8 +74,9 @@ void raise_what_releases_left() {
 }  // namespace
 
 EventScope* EventScope::innermost_ = nullptr;
+std::uint32_t EventScope::total = 0;
 
-EventScope::EventScope() : outer_(std::exchange(innermost_, this)) {}
+EventScope::EventScope() : outer_(std::exchange(innermost_, this)), ticks_(ticks_now()) {}
 
 EventScope::~EventScope() { innermost_ = outer_; }
 
@@ -81,8 +95,12 @@ bool EventScope::cancelled() { return current().cancelled; }
 
 bool EventScope::inside_event() { return innermost_ != nullptr; }
 
-void deliver(const std::function<void()>& event) noexcept {
+std::int32_t EventScope::ticks() { return innermost_ == nullptr ? ticks_now() : innermost_->ticks_; }
+
+void deliver(const std::function<void()>& event, const char* call) noexcept {
+    need_main_thread(call);
     const EventScope scope;
+    if (scheduler().current() == nullptr) ++EventScope::total;
     guarded(event);
     guarded(update_dirty_windows);
     guarded(raise_what_releases_left);

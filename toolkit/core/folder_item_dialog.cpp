@@ -1,5 +1,6 @@
 #include "toolkit/core/file_choice.h"
 #include "toolkit/core/file_type.h"
+#include "toolkit/core/main_thread.h"
 #include "toolkit/core/window.h"
 
 #include <tavrik/exception.h>
@@ -86,10 +87,12 @@ void OpenDialogInitializer(Object* dialog) {
 }
 
 Ref<Object> FolderItemDialogShowModal(Object* dialog) {
+    core::need_main_thread();
     return show(dialog_of(dialog), []() -> front::WindowFace* { return nullptr; });
 }
 
 Ref<Object> FolderItemDialogShowWithin(Object* dialog, Object* window) {
+    core::need_main_thread();
     const auto held = Ref<Object>::hold(window);
     return show(dialog_of(dialog),
                 [window] { return window == nullptr ? nullptr : core::window_state(window).face(); });

@@ -2,6 +2,7 @@
 #include "toolkit/core/application.h"
 #include "toolkit/core/control.h"
 #include "toolkit/core/event_scope.h"
+#include "toolkit/core/main_thread.h"
 #include "toolkit/core/menu_item.h"
 #include "toolkit/core/menu_tree.h"
 #include "toolkit/core/program.h"
@@ -186,6 +187,7 @@ Ref<Object> RuntimeMenuItemPopUp(Object* item, std::int32_t left, std::int32_t t
 }
 
 bool QuitMenuAction(Object* item) {
+    core::need_main_thread();
     if (!core::raise_free_action(item)) core::quit();
     return true;
 }

@@ -1,5 +1,6 @@
 #include "toolkit/core/menu_tree.h"
 
+#include "toolkit/core/main_thread.h"
 #include "toolkit/core/menu_item.h"
 #include "toolkit/core/window.h"
 #include "toolkit/core/window_list.h"
@@ -58,14 +59,15 @@ front::MenuRole role_of(const Object* item) {
 
 }  // namespace
 
-MenuItemState& menu_item_state(Object* item) {
+MenuItemState& menu_item_state(Object* item, const char* call) {
+    need_main_thread(call);
     if (item == nullptr) RaiseNilObjectException();
     if (item->native == nullptr) item->native = new MenuItemState;
     return *native<MenuItemState>(item);
 }
 
-Object* original_of(Object* item) {
-    Object* const original = menu_item_state(item).original.object();
+Object* original_of(Object* item, const char* call) {
+    Object* const original = menu_item_state(item, call).original.object();
     return original == nullptr ? item : original;
 }
 

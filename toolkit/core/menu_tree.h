@@ -40,16 +40,18 @@ struct MenuItemState : NativeState {
     std::vector<Object*> clones;  // of an original; they hold it
 };
 
-MenuItemState& menu_item_state(Object* item);
-Object* original_of(Object* item);
-inline MenuItemValues& values_of(Object* item) { return menu_item_state(original_of(item)).values; }
+MenuItemState& menu_item_state(Object* item, const char* call = __builtin_FUNCTION());
+Object* original_of(Object* item, const char* call = __builtin_FUNCTION());
+inline MenuItemValues& values_of(Object* item, const char* call = __builtin_FUNCTION()) {
+    return menu_item_state(original_of(item, call), call).values;
+}
 
 // Has what shows the item learn of a change.
 void menu_item_changed(Object* item);
 
 template <class Value>
-void set_value(Object* item, Value MenuItemValues::*part, Value value) {
-    MenuItemValues& values = values_of(item);
+void set_value(Object* item, Value MenuItemValues::*part, Value value, const char* call = __builtin_FUNCTION()) {
+    MenuItemValues& values = values_of(item, call);
     if (values.*part == value) return;
     values.*part = std::move(value);
     menu_item_changed(item);

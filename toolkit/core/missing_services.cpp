@@ -1,10 +1,11 @@
+#include <tavrik/application.h>
 #include <tavrik/exception.h>
 #include <tavrik/folder_item.h>
 #include <tavrik/window.h>
 
 #include <string>
 
-// The doors of items and windows to classes that the program doesn't have.
+// The doors to classes that the program doesn't have.
 namespace tavrik {
 namespace {
 
@@ -37,5 +38,9 @@ Ref<Object> formNewDragItem(Object*, std::int32_t, std::int32_t, std::int32_t, s
 }
 Ref<Object> windowGraphicsGetter(Object*, std::int32_t) { return nullptr; }
 Ref<Object> WindowDockItemGetter(Object*, std::int32_t) { return nullptr; }
+void AddTrayItem(Object*, Object*) { raise_missing("TrayItem"); }
+void RemoveTrayItem(Object*, Object*) { raise_missing("TrayItem"); }
+Ref<Object> appResourceForkGetter(Object*, std::int32_t) { return nullptr; }
+Ref<Object> AppDockItemGetter(Object*, std::int32_t) { return nullptr; }
 
 }  // namespace tavrik

@@ -1,9 +1,16 @@
 #include "toolkit/core/program.h"
 
+#include "toolkit/core/application.h"
 #include "toolkit/core/event_scope.h"
+#include "toolkit/core/executable.h"
+#include "toolkit/core/folder_item.h"
+#include "toolkit/core/main_thread.h"
+#include "toolkit/core/path.h"
+#include "toolkit/core/polls.h"
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/scheduler.h"
 #include "toolkit/core/streams.h"
+#include "toolkit/core/wake_up.h"
 #include "toolkit/core/window_list.h"
 #include "toolkit/front/choose.h"
 
@@ -11,7 +18,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -25,18 +32,23 @@ constexpr bool kListsLiveObjects = false;
 constexpr bool kListsLiveObjects = true;
 #endif
 
-class Quitter final : public front::ApplicationListener {
+class Desktop final : public front::ApplicationListener {
 public:
     void quit_requested() override {
         deliver([] { quit(); });
     }
-    void run_threads() override { scheduler().run_threads(); }
+    void woken() override { wake_up().woken(); }
+    void activated(bool active) override;
+    void open_documents(std::span<const std::string> paths) override;
 };
 
 struct Program {
-    Quitter quitter;
+    Desktop desktop;
     std::unique_ptr<front::Front> front;
     Ref<Object> app;
+    bool takes_documents = false;                // once it has opened
+    std::vector<std::string> documents_to_open;  // from before that
+    bool is_active = false;
     bool has_quit = false;
     std::int32_t exit_status = 0;
     std::vector<void (*)()> at_exit;
@@ -48,7 +60,11 @@ Program& program() {
 }
 
 constinit Operation<void()> call_open{"Application", "_CallOpen", "%%"};
+constinit Operation<void()> new_document{"Application", "NewDocument", "%%"};
+constinit Operation<void(Object*)> open_document{"Application", "OpenDocument", "%%o<FolderItem>"};
 constinit Event<void()> application_closed{"Application", "Close"};
+constinit Event<void()> application_activated{"Application", "Activate"};
+constinit Event<void()> application_deactivated{"Application", "Deactivate"};
 constinit Event<bool(bool)> cancel_close{"Application", "CancelClose"};
 
 void list_live_objects() {
@@ -78,34 +94,82 @@ bool quit_from_main_stack() {
     return true;
 }
 
+void Desktop::activated(bool active) {
+    if (std::exchange(program().is_active, active) == active) return;
+    deliver([active] {
+        const Ref<Object> app = program().app;
+        if (app) (active ? application_activated : application_deactivated)(app.object());
+    });
+}
+
+// Each is an event of its own: one that fails keeps none of the others out.
+void open_all(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths) {
+        deliver([&path] {
+            const Program& the = program();
+            if (the.app && !the.has_quit) open_document(the.app.object(), make_folder_item(path).object());
+        });
+    }
+}
+
+void Desktop::open_documents(std::span<const std::string> paths) {
+    Program& the = program();
+    if (the.takes_documents) return open_all({paths.begin(), paths.end()});
+    the.documents_to_open.insert(the.documents_to_open.end(), paths.begin(), paths.end());
+}
+
+// What the program begins with: the documents that it was started with, or a new one.
+void begin_with_documents() {
+    Program& the = program();
+    the.takes_documents = true;
+    std::vector<std::string> documents = documents_among(program_arguments());
+    std::ranges::move(std::exchange(the.documents_to_open, {}), std::back_inserter(documents));
+    if (!documents.empty()) return open_all(documents);
+    deliver([&the] {
+        if (the.app && !the.has_quit) new_document(the.app.object());
+    });
+}
+
+void tell_new_front() {
+    if (!has_front()) return;
+    wake_up().tell_new_front();
+    if (const Ref<Object> app = program().app) tell_front_of(app.object());
+}
+
 }  // namespace
 
 std::string program_name() {
-    std::error_code error;
-    const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? "program" : path.filename().string();
+    const std::string path = executable_path();
+    return path.empty() ? "program" : std::string(name_of(path));
 }
 
-front::Front& front() {
+front::Front& front(const char* call) {
+    need_main_thread(call);
     Program& the = program();
     if (!the.front) {
-        the.front = front::choose_front({program_name(), the.quitter});
-        scheduler().tell_new_front();
+        the.front = front::choose_front({program_name(), the.desktop});
+        tell_new_front();
     }
     return *the.front;
 }
+
+front::ApplicationListener& desktop() { return program().desktop; }
 
 bool has_front() { return program().front != nullptr; }
 
 void use_front(std::unique_ptr<front::Front> front) {
     program().front = std::move(front);
     program().has_quit = false;
-    scheduler().tell_new_front();
+    program().is_active = false;
+    tell_new_front();
 }
 
 bool has_quit() { return program().has_quit; }
 
-bool quit() { return on_main_stack(quit_from_main_stack); }
+bool quit(const char* call) {
+    need_main_thread(call);
+    return on_main_stack(quit_from_main_stack);
+}
 
 std::size_t show_message(const front::MessageDescription& message) { return show_message(message, frontmost_face); }
 
@@ -141,7 +205,9 @@ Ref<Object> getAppObject() { return core::program().app; }
 void RuntimeRun() {
     core::Program& program = core::program();
     if (program.app) core::deliver([&] { core::call_open(program.app.object()); });
+    core::begin_with_documents();
     if (!program.has_quit) core::front().run();
+    program.takes_documents = false;
     core::scheduler().end_all();
 }
 
@@ -151,7 +217,10 @@ std::int32_t RuntimeExit() {
     core::Program& program = core::program();
     core::scheduler().end_all();
     core::deliver([] { core::close_all_windows(core::AppIsQuitting::kNoMatterWhat); });
-    core::deliver([&] { program.app = nullptr; });
+    core::deliver([&] {
+        core::polls().clear();
+        program.app = nullptr;
+    });
     program.front = nullptr;
     while (!program.at_exit.empty()) {
         const auto function = program.at_exit.back();

@@ -13,17 +13,20 @@
 namespace tavrik::core {
 
 // The front, chosen and started at the first need.
-front::Front& front();
+front::Front& front(const char* call = __builtin_FUNCTION());
 // Whether anything has needed it yet.
 bool has_front();
 // Takes this front instead of choosing one.
 void use_front(std::unique_ptr<front::Front> front);
 
-// The name of the executable.
+// What fronts report to.
+front::ApplicationListener& desktop();
+
+// Shown where a window has no title: the name of the executable.
 std::string program_name();
 
 // Asks every window to close, and ends the run loop if all agree. Returns whether they did.
-bool quit();
+bool quit(const char* call = __builtin_FUNCTION());
 bool has_quit();
 
 // Shows text in a message box over the frontmost window; on standard error if nothing has been shown yet.

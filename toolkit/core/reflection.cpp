@@ -105,6 +105,12 @@ Function find_shared(std::string_view class_name, std::string_view method, std::
     raise_missing(class_name, "shared method", method);
 }
 
+void set_bool_property(Object* object, std::string_view name, bool value) {
+    const PropertyRecord* const property = find_property(object->record, name);
+    if (property == nullptr || property->setter == nullptr) return;
+    reinterpret_cast<void (*)(Object*, std::int32_t, bool)>(property->setter)(object, property->parameter, value);
+}
+
 std::int32_t find_slot(std::string_view class_name, std::string_view operation, std::string_view signature) {
     const ClassRecord* const record = need_class(class_name);
     for (std::int32_t i = 0; i < record->method_count; ++i) {

@@ -23,6 +23,7 @@ void set_text_property(Object* object, std::string_view name, const String& valu
 String text_property(Object* object, std::string_view name);
 bool bool_property(Object* object, std::string_view name);
 std::int32_t int_property(Object* object, std::string_view name);
+void set_bool_property(Object* object, std::string_view name, bool value);
 
 // The slot of the operation as the class declares it; raises FunctionNotFoundException if it has none.
 std::int32_t find_slot(std::string_view class_name, std::string_view operation, std::string_view signature);

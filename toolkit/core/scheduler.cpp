@@ -1,8 +1,8 @@
 #include "toolkit/core/scheduler.h"
 
 #include "toolkit/core/event_scope.h"
-#include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
+#include "toolkit/core/wake_up.h"
 
 #include <tavrik/exception.h>
 #include <tavrik/runtime.h>
@@ -146,25 +146,16 @@ void Scheduler::pass_ended() {
 }
 
 void Scheduler::run_threads() {
-    front_told_ = Time::max();
     if (current_ == nullptr) run_round(kTurnsBeginFor);
-    tell_front();
+    arrange_wake_up();
 }
 
-void Scheduler::tell_front() {
-    if (current_ != nullptr || !has_front()) return;
+void Scheduler::arrange_wake_up() {
+    if (current_ != nullptr) return;
     const Time wanted = !ready_.empty()      ? Time::min()
                         : !sleepers_.empty() ? sleepers_.begin()->first.first
                                              : Time::max();
-    if (wanted >= front_told_) return;
-    front_told_ = wanted;
-    const auto delay = wanted == Time::min() ? Time::duration::zero() : wanted - clock_->now();
-    front().run_threads_in(std::max(std::chrono::ceil<milliseconds>(delay), milliseconds::zero()));
-}
-
-void Scheduler::tell_new_front() {
-    front_told_ = Time::max();
-    tell_front();
+    wake_up().at(WakeUp::kThreads, wanted);
 }
 
 void Scheduler::call_on_main_stack(const std::function<void()>& function) {
@@ -183,6 +174,7 @@ void Scheduler::end_all() {
     const auto next = [&] { return std::ranges::find_if(tasks_, can_end); };
     for (auto task = next(); task != tasks_.end(); task = next()) end(*task);
     count();
+    arrange_wake_up();
 }
 
 void Scheduler::use_clock(Clock* clock) { clock_ = clock == nullptr ? &real_clock() : clock; }
@@ -227,7 +219,7 @@ void Scheduler::switch_to(Task* next) {
 void Scheduler::make_call_of(Task& caller) {
     const auto no_turn_from = std::exchange(no_turn_from_, std::nullopt);
     const auto turn_ends = std::exchange(turn_ends_, std::nullopt);
-    tell_front();
+    arrange_wake_up();
     try {
         (*caller.call_)();
     } catch (...) {
@@ -281,7 +273,7 @@ void Scheduler::place(Task& task) {
     if (&task == current_) return;
     if (task.can_go_on() != task.is_queued()) task.is_queued() ? ready_.remove(task) : ready_.add(task);
     count();
-    tell_front();
+    arrange_wake_up();
 }
 
 void Scheduler::wake(Task& task) {

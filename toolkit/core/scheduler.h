@@ -96,9 +96,7 @@ public:
 
     // From the event loop, and only there: lets threads run for one slice of time at most.
     void run_threads();
-    // Has the front call run_threads() in time. A front that is new hasn't been told yet.
-    void tell_front();
-    void tell_new_front();
+    Time now() const { return clock_->now(); }
 
     // Makes the call on the main stack, wherever the code runs that asks for it, which waits for the end.
     void call_on_main_stack(const std::function<void()>& function);
@@ -124,6 +122,8 @@ private:
     Task* next_task();
     Task* take_task(Time time);
     void leave();
+    // Has run_threads() called in time.
+    void arrange_wake_up();
 
     void place(Task& task);
     void wake(Task& task);
@@ -148,7 +148,6 @@ private:
     Time last_look_;
     int passes_to_look_ = 1;
     int passes_between_looks_ = 1;
-    Time front_told_ = Time::max();
 };
 
 Scheduler& scheduler();

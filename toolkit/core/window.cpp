@@ -2,6 +2,7 @@
 #include "toolkit/core/window.h"
 
 #include "toolkit/core/control.h"
+#include "toolkit/core/main_thread.h"
 #include "toolkit/core/mdi_window.h"
 #include "toolkit/core/menu_item.h"
 #include "toolkit/core/program.h"
@@ -230,6 +231,7 @@ void WindowAddMenuHandler(Object* window, const String& item, Function handler) 
 }
 
 void enableMenuItems(std::int32_t) {
+    core::need_main_thread();
     if (Object* const window = core::frontmost_window()) core::enable_menu_items(window);
 }
 

@@ -96,7 +96,7 @@ private:
     std::unique_ptr<front::WindowFace> face_;
 };
 
-WindowState& window_state(Object* window);
+WindowState& window_state(Object* window, const char* call = __builtin_FUNCTION());
 
 // Its controls in the order in which they came; nil for a window at its end.
 Ref<ArrayOf<Object>> control_list(Object* window);

@@ -26,8 +26,8 @@ auto& part_of(RectLike& rect, std::int32_t which) {
     }
 }
 
-int& limit_of(Object* window, std::int32_t which) {
-    Description& description = window_state(window).description;
+int& limit_of(Object* window, std::int32_t which, const char* call = __builtin_FUNCTION()) {
+    Description& description = window_state(window, call).description;
     switch (which) {
         case 0:
             return description.min_width;
@@ -41,28 +41,29 @@ int& limit_of(Object* window, std::int32_t which) {
 }
 
 template <auto Part, class Value>
-void set(Object* window, Value value) {
-    core::WindowState& state = window_state(window);
+void set(Object* window, Value value, const char* call = __builtin_FUNCTION()) {
+    core::WindowState& state = window_state(window, call);
     state.description.*Part = static_cast<std::remove_cvref_t<decltype(state.description.*Part)>>(value);
     state.changed();
 }
 
 // A number that stands for nothing is the first of its kind.
 template <auto Part, auto Last>
-void set_numbered(Object* window, std::int32_t number) {
+void set_numbered(Object* window, std::int32_t number, const char* call = __builtin_FUNCTION()) {
     const bool known = number >= 0 && number <= static_cast<std::int32_t>(Last);
-    set<Part>(window, known ? number : 0);
+    set<Part>(window, known ? number : 0, call);
 }
 
 template <auto Part>
-std::int32_t number_of(Object* window) {
-    return static_cast<std::int32_t>(window_state(window).description.*Part);
+std::int32_t number_of(Object* window, const char* call = __builtin_FUNCTION()) {
+    return static_cast<std::int32_t>(window_state(window, call).description.*Part);
 }
 
 // What only the window system can answer.
 template <class Answer>
-auto asked(Object* window, Answer answer) -> decltype(answer(std::declval<front::WindowFace&>())) {
-    core::WindowState& state = window_state(window);
+auto asked(Object* window, Answer answer, const char* call = __builtin_FUNCTION())
+    -> decltype(answer(std::declval<front::WindowFace&>())) {
+    core::WindowState& state = window_state(window, call);
     if (state.face() == nullptr) return {};
     return core::on_main_stack([&] { return answer(*state.face()); });
 }

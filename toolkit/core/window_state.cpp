@@ -1,5 +1,6 @@
 #include "toolkit/core/control.h"
 #include "toolkit/core/event_scope.h"
+#include "toolkit/core/main_thread.h"
 #include "toolkit/core/mdi_window.h"
 #include "toolkit/core/menu_item.h"
 #include "toolkit/core/program.h"
@@ -48,7 +49,8 @@ bool is_modal_by_itself(front::WindowFrame frame) {
 
 }  // namespace
 
-WindowState& window_state(Object* window) {
+WindowState& window_state(Object* window, const char* call) {
+    need_main_thread(call);
     if (window == nullptr) RaiseNilObjectException();
     if (window->native == nullptr) RuntimeCreateWindow(window);
     return *native<WindowState>(window);

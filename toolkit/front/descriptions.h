@@ -12,6 +12,13 @@
 // positions are relative to the content of the window unless told otherwise.
 namespace tavrik::front {
 
+struct Point {
+    int left = 0;
+    int top = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
 struct Rect {
     int left = 0;
     int top = 0;
@@ -112,6 +119,37 @@ struct TextStyle {
     bool underline = false;
 
     bool operator==(const TextStyle&) const = default;
+};
+
+enum class CursorShape {
+    kArrow,
+    kIBeam,
+    kCross,
+    kWait,
+    kPointingHand,
+    kOpenHand,
+    kClosedHand,
+    kResizeHorizontal,
+    kResizeVertical,
+    kResizeUpLeft,
+    kResizeUpRight,
+    kResizeAll,
+    kForbidden,
+    kBlank,
+};
+
+struct CursorImage {
+    int width = 0;
+    int height = 0;
+    Point hot_spot;
+    std::vector<std::uint32_t> pixels;  // 0xAARRGGBB, not premultiplied, row by row
+};
+
+struct Cursor {
+    CursorShape shape = CursorShape::kArrow;
+    std::shared_ptr<const CursorImage> image;  // in place of the shape
+
+    bool operator==(const Cursor&) const = default;
 };
 
 struct ButtonDescription {

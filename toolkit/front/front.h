@@ -75,8 +75,12 @@ class ApplicationListener {
 public:
     // The desktop asks the whole program to end (the session ends, or a signal says so).
     virtual void quit_requested() = 0;
-    // It is time for what Front::run_threads_in() was told. Returns within a moment, as any report does.
-    virtual void run_threads() = 0;
+    // It is time for what Front::wake_in() was told. Returns within a moment, as any report does.
+    virtual void woken() = 0;
+    // The program as a whole has come to the front of the desktop, or has left it.
+    virtual void activated(bool active) = 0;
+    // The desktop hands over files, as paths.
+    virtual void open_documents(std::span<const std::string> paths) = 0;
 
 protected:
     ~ApplicationListener() = default;
@@ -89,14 +93,19 @@ public:
     // Dispatches what happens until quit() is called, however deep inside.
     virtual void run() = 0;
     virtual void quit() = 0;
-    // Dispatches what has happened by now, and waits for the first thing to happen if told to. False: the front has
-    // quit, and nothing will happen any more.
+    // Makes one turn of run(): dispatches what has happened by now, and waits for the first thing to happen if told to.
+    // False: the front has quit, and nothing will happen any more.
     virtual bool pump(bool wait) = 0;
     // Runs `call` on the main thread, inside run() or pump(). The one member that any thread may call.
     virtual void post(std::function<void()> call) = 0;
-    // Calls ApplicationListener::run_threads() once, from run(), pump() or a dialog, when so much time has passed and
+    // Calls ApplicationListener::woken() once, from run(), pump() or a dialog, when so much time has passed and
     // what has happened by then is dispatched. Takes the place of what it was told before.
-    virtual void run_threads_in(std::chrono::milliseconds delay) = 0;
+    virtual void wake_in(std::chrono::milliseconds delay) = 0;
+
+    // Over the whole program, before what windows and controls have; nothing leaves it to them.
+    virtual void set_cursor(std::optional<Cursor> cursor) = 0;
+    // Whether what is pointed at shows its help. It does at first.
+    virtual void set_help_visible(bool visible) = 0;
 
     virtual std::unique_ptr<WindowFace> make_window(WindowListener& listener) = 0;
     // The part of the main screen that windows may cover; empty without a screen.

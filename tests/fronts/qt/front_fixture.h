@@ -23,10 +23,14 @@ using Log = std::vector<std::string>;
 
 struct RecordingApplication final : ApplicationListener {
     void quit_requested() override { ++requests; }
-    void run_threads() override { when_threads_run(); }
+    void woken() override { when_woken(); }
+    void activated(bool active) override { activations.push_back(active); }
+    void open_documents(std::span<const std::string> paths) override { documents.assign(paths.begin(), paths.end()); }
 
     int requests = 0;
-    std::function<void()> when_threads_run;
+    std::function<void()> when_woken;
+    std::vector<bool> activations;
+    std::vector<std::string> documents;
 };
 
 struct RecordingWindow final : WindowListener {

@@ -77,10 +77,13 @@ struct FakeWindow final : WindowListener {
 
 struct FakeApplication final : ApplicationListener {
     void quit_requested() override { when_quit_requested(); }
-    void run_threads() override { when_threads_run(); }
+    void woken() override { when_woken(); }
+    void activated(bool active) override { when_activated(active); }
+    void open_documents(std::span<const std::string>) override {}
 
     std::function<void()> when_quit_requested;
-    std::function<void()> when_threads_run;
+    std::function<void()> when_woken;
+    std::function<void(bool)> when_activated = [](bool) {};
 };
 
 // One window, "maptool", with File/Quit and the buttons "Load" and "Null", the second disabled.

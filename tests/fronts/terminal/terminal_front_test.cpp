@@ -89,25 +89,32 @@ TEST(TerminalFront, Posted_calls_run_in_order_and_before_the_next_line) {
     EXPECT_EQ(program.reports, (Reports{"first", "second", "chosen 7", "third", "quit requested"}));
 }
 
-TEST(TerminalFront, Threads_run_when_their_time_has_come_beside_lines_and_under_a_message) {
+TEST(TerminalFront, A_wake_up_comes_when_it_is_time_beside_lines_and_under_a_message) {
     Program program;
     int runs = 0;
-    program.application.when_threads_run = [&] {
+    program.application.when_woken = [&] {
         program.null->apply({.caption = std::to_string(++runs)});
         if (runs == 4) return program.front->quit();
-        program.front->run_threads_in(std::chrono::milliseconds(runs));
+        program.front->wake_in(std::chrono::milliseconds(runs));
     };
     program.load_listener.when_pressed = [&] {
         EXPECT_EQ(program.front->show_message(kSave, nullptr), kSave.cancel_button);
     };
-    program.front->run_threads_in({});
+    program.front->wake_in({});
     program.input.write("1\n");
     program.front->run();
     EXPECT_EQ(runs, 4);
     EXPECT_EQ(program.output.read(), std::string("maptool\nFile: Quit\n1. Load\n2. 1\n") + kSaveText);
-    program.front->run_threads_in(std::chrono::hours(1));
+    program.front->wake_in(std::chrono::hours(1));
     program.front->pump(false);
     EXPECT_EQ(runs, 4);
+}
+
+TEST(TerminalFront, The_program_is_active_from_its_start) {
+    Program program;
+    program.application.when_activated = [&](bool active) { program.reports.push_back(active ? "active" : "left"); };
+    program.run("1\n");
+    EXPECT_EQ(program.reports, (Reports{"active", "load", "quit requested"}));
 }
 
 TEST(TerminalFront, An_output_that_nobody_reads_ends_the_program_in_order) {

@@ -30,6 +30,9 @@ constexpr Totals kTotals[] = {
     {"Date", 34, 4, 18},
     {"Thread", 13, 6, 4, 1},
     {"TextEncoding", 8, 3, 5},
+    {"_Pollable", 0, 0, 0},
+    {"Application", 47, 17, 21, 10},
+    {"App", 28, 17, 0},  // blank, in place of the accessors
     {"FolderItemDialog", 25, 3, 11},
     {"OpenDialog", 1, 3, 0},
     {"MenuItem", 55, 21, 21, 2},

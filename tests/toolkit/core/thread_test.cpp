@@ -6,6 +6,7 @@
 #include "tests/support/raised.h"
 #include "tests/support/recording_front.h"
 #include "toolkit/core/scheduler.h"
+#include "toolkit/core/wake_up.h"
 
 #include <tavrik/runtime.h>
 
@@ -195,26 +196,26 @@ TEST_F(Threads, The_event_loop_is_kept_waiting_for_one_slice_at_most) {
 }
 
 TEST_F(Threads, The_front_is_told_when_they_want_to_run) {
-    const auto told = [this] { return std::exchange(front_.threads_wanted, {}); };
+    const auto told = [this] { return std::exchange(front_.wake_ups, {}); };
     const Ref<Thread> thread = make_thread([] { AppSleepCurrentThread(nullptr, 30); });
     EXPECT_THAT(told(), ElementsAre());
     thread->Run();
     EXPECT_THAT(told(), ElementsAre(0ms));
-    core::scheduler().run_threads();
+    core::wake_up().woken();
     EXPECT_THAT(told(), ElementsAre(30ms));
     thread->Sleep(20, true);
     EXPECT_THAT(told(), ElementsAre(20ms));
     thread->Resume();
     EXPECT_THAT(told(), ElementsAre(0ms));
-    core::scheduler().run_threads();
+    core::wake_up().woken();
     EXPECT_THAT(told(), ElementsAre());
 
     thread->Run();
-    core::scheduler().run_threads();
+    core::wake_up().woken();
     start([] { core::show_message({.text = "open for long"}); });
     told();
     front_.when_message = [&] { EXPECT_THAT(told(), ElementsAre(30ms)) << "others sleep on behind the dialog"; };
-    core::scheduler().run_threads();
+    core::wake_up().woken();
     EXPECT_EQ(front_.messages.size(), 1u);
 }
 

@@ -258,7 +258,7 @@ TEST_F(Windows, That_are_modal_keep_their_caller_waiting_until_they_are_closed_o
     const Ref<Window> main_window = open();
     const Ref<Window> dialog = open([](const Ref<Window>& window) { window->set_Visible(false); });
     int turns = 0;
-    front_.when_pumped = [&] {
+    front_.when_pumped = [&](bool) {
         EXPECT_EQ(face(1).description.modality, front::Modality::kProgram);
         if (++turns == 3) dialog->Hide();
     };
@@ -266,7 +266,7 @@ TEST_F(Windows, That_are_modal_keep_their_caller_waiting_until_they_are_closed_o
     EXPECT_EQ(turns, 3);
     EXPECT_EQ(face(1).description.modality, front::Modality::kNone);
 
-    front_.when_pumped = [&] {
+    front_.when_pumped = [&](bool) {
         EXPECT_EQ(face(1).description.modality, front::Modality::kWindow);
         EXPECT_EQ(face(1).owner, &face(0));
         face(1).listener.close_requested();
@@ -282,11 +282,11 @@ TEST_F(Windows, That_are_modal_within_each_other_end_from_the_inside) {
     const Ref<Window> outer = open(hidden);
     const Ref<Window> inner = open(hidden);
     Names log;
-    front_.when_pumped = [&] {
-        front_.when_pumped = [&] {
+    front_.when_pumped = [&](bool) {
+        front_.when_pumped = [&](bool) {
             outer->Close();
             log.emplace_back("outer closed");
-            front_.when_pumped = [&] { inner->Close(); };
+            front_.when_pumped = [&](bool) { inner->Close(); };
         };
         inner->ShowModal();
         log.emplace_back("inner ended");
@@ -299,7 +299,7 @@ TEST_F(Windows, That_are_modal_end_with_the_program_and_with_the_front) {
     const Ref<Window> main_window = open();
     const Ref<Window> dialog = open();
     dialog->ShowModal();  // the front has quit
-    front_.when_pumped = [] { core::quit(); };
+    front_.when_pumped = [](bool) { core::quit(); };
     dialog->ShowModal();
     EXPECT_TRUE(core::open_windows().empty());
 }

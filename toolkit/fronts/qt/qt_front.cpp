@@ -1,5 +1,6 @@
 #include "toolkit/fronts/qt/qt_front.h"
 
+#include "toolkit/fronts/qt/cursor.h"
 #include "toolkit/fronts/qt/file_dialog.h"
 #include "toolkit/fronts/qt/message_box.h"
 #include "toolkit/fronts/qt/pop_up.h"
@@ -16,8 +17,6 @@
 namespace tavrik::front::qt {
 namespace {
 
-constexpr int kLongestPumpMs = 20;
-
 // A dialog over a window that nobody sees would be nowhere.
 QWidget* visible_window_of(WindowFace* face) {
     if (!face) return nullptr;
@@ -33,7 +32,8 @@ QtFront::Arguments::Arguments(std::string program_name)
 QtFront::QtFront(const Start& start)
     : arguments_(start.program_name),
       application_(arguments_.count, arguments_.values.data()),
-      quit_requests_(start.application) {
+      quit_requests_(start.application),
+      reports_(start.application) {
     // QApplication takes the person's locale for all of the C library; numbers in files have a point in any locale.
     std::setlocale(LC_NUMERIC, "C");
     QCoreApplication::setApplicationName(to_qt(start.program_name));
@@ -41,9 +41,8 @@ QtFront::QtFront(const Start& start)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // QApplication::exec() would do this.
     QAccessible::setRootObject(&application_);
-    threads_.setSingleShot(true);
-    QObject::connect(&threads_, &QTimer::timeout, &threads_,
-                     [&listener = start.application] { listener.run_threads(); });
+    wake_up_.setSingleShot(true);
+    QObject::connect(&wake_up_, &QTimer::timeout, &wake_up_, [&listener = start.application] { listener.woken(); });
 }
 
 QtFront::~QtFront() {
@@ -71,8 +70,7 @@ void QtFront::quit() {
 
 bool QtFront::pump(bool wait) {
     if (quitting_) return false;
-    if (wait) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    QCoreApplication::processEvents(QEventLoop::AllEvents, kLongestPumpMs);
+    QCoreApplication::processEvents(wait ? QEventLoop::WaitForMoreEvents : QEventLoop::AllEvents);
     return !quitting_;
 }
 
@@ -81,6 +79,12 @@ void QtFront::post(std::function<void()> call) {
         if (!quitting_) call();
     };
     QMetaObject::invokeMethod(&posted_calls_, run_unless_quitting, Qt::QueuedConnection);
+}
+
+void QtFront::set_cursor(std::optional<Cursor> cursor) {
+    // Qt stacks them, and wants each one back.
+    while (QGuiApplication::overrideCursor() != nullptr) QGuiApplication::restoreOverrideCursor();
+    if (cursor) QGuiApplication::setOverrideCursor(to_qt(*cursor));
 }
 
 std::unique_ptr<WindowFace> QtFront::make_window(WindowListener& listener) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/front/front.h"
+#include "toolkit/fronts/qt/application_reports.h"
 #include "toolkit/fronts/qt/open_dialogs.h"
 #include "toolkit/fronts/qt/quit_requests.h"
 
@@ -25,7 +26,9 @@ public:
     void quit() override;
     bool pump(bool wait) override;
     void post(std::function<void()> call) override;
-    void run_threads_in(std::chrono::milliseconds delay) override { threads_.start(delay); }
+    void wake_in(std::chrono::milliseconds delay) override { wake_up_.start(delay); }
+    void set_cursor(std::optional<Cursor> cursor) override;
+    void set_help_visible(bool visible) override { reports_.set_help_visible(visible); }
 
     std::unique_ptr<WindowFace> make_window(WindowListener& listener) override;
     Rect available_area() override;
@@ -46,8 +49,9 @@ private:
     Arguments arguments_;
     QApplication application_;
     QuitRequests quit_requests_;
+    ApplicationReports reports_;
     QObject posted_calls_;
-    QTimer threads_;
+    QTimer wake_up_;
     OpenDialogs dialogs_;
     std::vector<QEventLoop*> loops_;
     bool quitting_ = false;  // from quit() until run() has ended

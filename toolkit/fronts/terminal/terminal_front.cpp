@@ -52,7 +52,10 @@ public:
         return !quitting_;
     }
     void post(std::function<void()> call) override { posted_.post(std::move(call)); }
-    void run_threads_in(std::chrono::milliseconds delay) override { threads_run_at_ = Clock::now() + delay; }
+    void wake_in(std::chrono::milliseconds delay) override { wakes_at_ = Clock::now() + delay; }
+    // Here is neither a pointer nor help beside it.
+    void set_cursor(std::optional<Cursor>) override {}
+    void set_help_visible(bool) override {}
 
     std::unique_ptr<WindowFace> make_window(WindowListener& listener) override;
     Rect available_area() override { return {}; }
@@ -66,7 +69,7 @@ private:
     using Clock = std::chrono::steady_clock;
 
     void turn(Wait wait, const bool& over);
-    void run_due_threads();
+    void wake_if_due();
     int longest_wait_ms() const;
     void await(Wait wait);
     void ask(Question& question);
@@ -89,11 +92,12 @@ private:
     int output_;
     PostedCalls posted_;
     std::shared_ptr<WindowStack> windows_ = std::make_shared<WindowStack>();
-    std::optional<Clock::time_point> threads_run_at_;
+    std::optional<Clock::time_point> wakes_at_;
     std::vector<Question*> questions_;  // the innermost last
     std::optional<std::string> shown_;  // the screen printed last, unless something else came before it since
     bool opening_menus_ = false;
     bool end_reported_ = false;
+    bool active_ = false;
     bool quitting_ = false;
 };
 
@@ -116,7 +120,9 @@ private:
     Question& question_;
 };
 
+// The program has the terminal from its start to its end.
 void TerminalFront::run() {
+    if (!quitting_ && !std::exchange(active_, true)) application_.activated(true);
     while (!quitting_) turn(Wait::kForSomething, quitting_);
 }
 
@@ -125,12 +131,12 @@ void TerminalFront::quit() {
     for (Question* question : questions_) question->end();
 }
 
-// One turn of a loop that goes on until `over`: what was posted, the threads, the screen, and then at most one line, so
+// One turn of a loop that goes on until `over`: what was posted, the wake-up, the screen, and then at most one line, so
 // that every line meets the screen that the one before it left behind.
 void TerminalFront::turn(Wait wait, const bool& over) {
     const bool has_run = posted_.run();
     if (over) return;
-    run_due_threads();
+    wake_if_due();
     if (over) return;
     refresh();
     if (over) return;
@@ -156,16 +162,16 @@ void TerminalFront::await(Wait wait) {
     }
 }
 
-void TerminalFront::run_due_threads() {
-    if (!threads_run_at_ || Clock::now() < *threads_run_at_) return;
-    threads_run_at_.reset();
-    application_.run_threads();
+void TerminalFront::wake_if_due() {
+    if (!wakes_at_ || Clock::now() < *wakes_at_) return;
+    wakes_at_.reset();
+    application_.woken();
 }
 
-// Until the threads are due; -1 is for ever.
+// Until the next wake-up; -1 is for ever.
 int TerminalFront::longest_wait_ms() const {
-    if (!threads_run_at_) return -1;
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*threads_run_at_ - Clock::now()).count();
+    if (!wakes_at_) return -1;
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*wakes_at_ - Clock::now()).count();
     return static_cast<int>(std::clamp<std::int64_t>(left, 0, std::numeric_limits<int>::max()));
 }
 

@@ -20,7 +20,9 @@ namespace {
 
 struct Nobody final : front::ApplicationListener {
     void quit_requested() override {}
-    void run_threads() override {}
+    void woken() override {}
+    void activated(bool) override {}
+    void open_documents(std::span<const std::string>) override {}
 };
 
 // What an entry shows, and what is below it.
