@@ -33,7 +33,9 @@
 #include "runtime/exceptions.h"
 #include "runtime/tavrik_module.h"
 #include "ui/apple_menu_item.h"
+#include "ui/canvas.h"
 #include "ui/control.h"
+#include "ui/input_interfaces.h"
 #include "ui/mdi_window.h"
 #include "ui/menu_bar.h"
 #include "ui/message_dialog.h"
@@ -60,36 +62,39 @@ void build_classes() {
 void initialize() {
     build_classes<Window>();
     _WindowSupport::Windows__Init();
-    build_classes<
-        _CancelButton, _AlternateActionButton, _ActionButton, MessageDialogButton, MessageDialog,
+    build_classes<_CancelButton, _AlternateActionButton, _ActionButton, MessageDialogButton, MessageDialog,
 
-        Pair, MemoryBlock, Date, Dictionary,
+                  Pair, MemoryBlock, Date, Dictionary,
 
-        Introspection::ArrayInfo, Introspection::MemberInfo, Introspection::TypeInfo, Introspection::ValueTypeInfo,
-        Introspection::ClassInfo, Introspection::PrimitiveTypeInfo, Introspection::PointerTypeInfo,
-        Introspection::StructureInfo, Introspection::EnumInfo, Introspection::VariantInfo, Introspection::StringInfo,
-        Introspection::PropertyInfo, Introspection::PropertyInfoImp, Introspection::MethodBase,
-        Introspection::MethodInfo, Introspection::MethodInfoImp, Introspection::ParameterInfo,
-        Introspection::ParameterInfoImp, Introspection::ConstructorInfo, Introspection::ConstructorInfoImp,
-        Introspection::AttributeInfo,
+                  Introspection::ArrayInfo, Introspection::MemberInfo, Introspection::TypeInfo,
+                  Introspection::ValueTypeInfo, Introspection::ClassInfo, Introspection::PrimitiveTypeInfo,
+                  Introspection::PointerTypeInfo, Introspection::StructureInfo, Introspection::EnumInfo,
+                  Introspection::VariantInfo, Introspection::StringInfo, Introspection::PropertyInfo,
+                  Introspection::PropertyInfoImp, Introspection::MethodBase, Introspection::MethodInfo,
+                  Introspection::MethodInfoImp, Introspection::ParameterInfo, Introspection::ParameterInfoImp,
+                  Introspection::ConstructorInfo, Introspection::ConstructorInfoImp, Introspection::AttributeInfo,
 
-        _MenuBarInstaller, MenuBar, MenuItem, PrefsMenuItem, AppleMenuItem, QuitMenuItem,
+                  _MenuBarInstaller, MenuBar, MenuItem, PrefsMenuItem, AppleMenuItem, QuitMenuItem,
 
-        EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException, OutOfBoundsException,
-        OutOfMemoryException, ServiceNotAvailableException, StackOverflowException, UnsupportedFormatException,
-        ThreadEndException, ThreadAlreadyRunningException, RuntimeException, NilObjectException, IllegalCastException,
-        InvalidParentException,
+                  EndException, FunctionNotFoundException, TypeMismatchException, KeyNotFoundException,
+                  OutOfBoundsException, OutOfMemoryException, ServiceNotAvailableException, StackOverflowException,
+                  UnsupportedFormatException, ThreadEndException, ThreadAlreadyRunningException, RuntimeException,
+                  NilObjectException, IllegalCastException, InvalidParentException,
 
-        Thread, FolderItem, Permissions, VirtualVolume, Writeable, TextOutputStream, TextInputStream, Readable,
-        BinaryStream, MDIWindow, TextEncoding, _Pollable, Application, OpenDialog, FolderItemDialog, RectControl, Control,
+                  actionSource, actionNotificationReceiver,
 
-        _MouseCursorImp, MouseCursor, _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton,
+                  Thread, FolderItem, Permissions, VirtualVolume, Writeable, TextOutputStream, TextInputStream,
+                  Readable, BinaryStream, MDIWindow, TextEncoding, _Pollable, Application, OpenDialog, FolderItemDialog,
+                  RectControl, Control,
 
-        _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString, _VariantCString,
-        _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean, _VariantDouble,
-        _VariantSingle, _VariantString, _VariantUInt64, _VariantInt64, _VariantInt32, _VariantUInt32, FileType,
+                  _MouseCursorImp, MouseCursor, _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton, Canvas,
 
-        App, Window1::Window1, MenuBar1::MenuBar1>();
+                  _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString,
+                  _VariantCString, _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean,
+                  _VariantDouble, _VariantSingle, _VariantString, _VariantUInt64, _VariantInt64, _VariantInt32,
+                  _VariantUInt32, FileType,
+
+                  App, Window1::Window1, MenuBar1::MenuBar1>();
 }
 
 void finalize() {

@@ -38,6 +38,13 @@ struct Interface : Class<Self, Object> {
         static constexpr ClassDefinition kDefinition{.name = class_name_record<Self>, .is_interface = true};
         return kDefinition;
     }
+
+protected:
+    // What stands at a position of the interface's table for this object. Raises IllegalCastException without one.
+    template <int Position, class Entry>
+    static Entry operation(Object* object) {
+        return reinterpret_cast<Entry>(RuntimeLookupInterfaceVtable(object, Self::__Lookup())[Position]);
+    }
 };
 
 // A new object of a class.

@@ -4,6 +4,11 @@
 #include "ui/pane.h"
 
 namespace tavrik {
+
+void Control::set_TabPanelIndex(std::int32_t index) {
+    ControlTabPanelIndexSetter(this, detail::FieldEntry<&Control::mTabPanelIndex>::offset(), index);
+}
+
 namespace {
 
 void set_window(Control* self, Arg<Window> window) {
@@ -38,7 +43,11 @@ constexpr PropertyRow kProperties[] = {
     stored<&Control::mName>("Name"),
     stored<&Control::mIndex>("Index"),
     stored<&Control::mTabPanelIndex, ControlTabPanelIndexSetter>("TabPanelIndex"),
+    property<&Control::PanelIndex, &Control::set_PanelIndex>("PanelIndex"),
+    property<&Control::MouseX>("MouseX"),
+    property<&Control::MouseY>("MouseY"),
     property<&Control::Window, ignored>("Window"),
+    property<&Control::Handle>("Handle"),
 };
 
 constexpr EventRow kEvents[] = {

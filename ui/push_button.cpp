@@ -1,7 +1,7 @@
 #include "ui/push_button.h"
 
 #include "runtime/frame.h"
-#include "ui/pane.h"
+#include "ui/input_interfaces.h"
 
 namespace tavrik {
 namespace {
@@ -35,6 +35,10 @@ void lost_focus(PushButton* self) {
 
 constexpr OperationRow kOperations[] = {
     operation<&PushButton::Event_CreatePane, PushButtonCreatePane>("Event_CreatePane"),
+    operation<&PushButton::addActionNotificationReceiver, pbAddActionNotificationReceiver>(
+        "addActionNotificationReceiver"),
+    operation<&PushButton::removeActionNotificationReceiver, pbRemoveActionNotificationReceiver>(
+        "removeActionNotificationReceiver"),
     operation<&PushButton::Push, pushButtonPush>("Push"),
     operation<&PushButton::_MouseDown, mouse_down>("_MouseDown"),
     operation<&PushButton::_MouseDrag, mouse_drag>("_MouseDrag"),
@@ -67,6 +71,8 @@ constexpr HandlerRow kHandlers[] = {
 };
 
 constexpr InterfaceRow kInterfaces[] = {
+    implements<actionSource, &PushButton::addActionNotificationReceiver,
+               &PushButton::removeActionNotificationReceiver>(),
     implements<_MouseEvents, &PushButton::_MouseDown, &PushButton::_MouseDrag, &PushButton::_MouseUp>(),
     implements<_FocusEvents, &PushButton::_GotFocus, &PushButton::_LostFocus>(),
 };

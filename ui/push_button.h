@@ -6,11 +6,24 @@
 
 namespace tavrik {
 
+// What hears of the presses of an actionSource: one operation, which gets the source.
+struct actionNotificationReceiver : Interface<actionNotificationReceiver> {};
+
+// addActionNotificationReceiver, removeActionNotificationReceiver.
+struct actionSource : Interface<actionSource> {};
+
 // A button that raises Action when it has been pressed.
 struct PushButton : Class<PushButton, RectControl> {
     static const ClassDefinition& definition();
 
     void Event_CreatePane() { dispatch<&PushButton::Event_CreatePane>(this); }
+    // The receiver hears of each press, before Action is raised; it is held until it is removed.
+    void addActionNotificationReceiver(Arg<actionNotificationReceiver> receiver) {
+        dispatch<&PushButton::addActionNotificationReceiver>(this, receiver);
+    }
+    void removeActionNotificationReceiver(Arg<actionNotificationReceiver> receiver) {
+        dispatch<&PushButton::removeActionNotificationReceiver>(this, receiver);
+    }
     // As if the person had pressed it.
     void Push() { dispatch<&PushButton::Push>(this); }
     bool _MouseDown(std::int32_t x, std::int32_t y) { return dispatch<&PushButton::_MouseDown>(this, x, y); }

@@ -1,5 +1,5 @@
 #include "ui/control.h"
-#include "ui/pane.h"
+#include "ui/input_interfaces.h"
 #include "ui/window.h"
 
 namespace tavrik {

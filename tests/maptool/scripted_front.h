@@ -1,8 +1,8 @@
 #pragma once
 
+#include "tests/support/shown_controls.h"
 #include "toolkit/front/front.h"
 
-#include <algorithm>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -11,44 +11,8 @@
 // A front that nobody sees: it keeps what it is told, and a test does what a person would.
 namespace tavrik {
 
-struct ShownButton final : front::ButtonFace {
-    explicit ShownButton(front::ButtonListener& told) : listener(told) {}
-
-    void apply(const front::ButtonDescription& button) override { description = button; }
-    void set_focus() override {}
-
-    front::ButtonListener& listener;
-    front::ButtonDescription description;
-};
-
-struct ShownWindow final : front::WindowFace {
-    ShownWindow(ShownWindow*& shown, front::WindowListener& told) : shown_as(shown), listener(told) { shown = this; }
-    ~ShownWindow() override { shown_as = nullptr; }
-    ShownWindow(const ShownWindow&) = delete;
-    ShownWindow& operator=(const ShownWindow&) = delete;
-
-    void apply(const front::WindowDescription& window) override { description = window; }
-    void apply_menus(std::span<const front::MenuDescription> bar) override { menus.assign(bar.begin(), bar.end()); }
-    std::unique_ptr<front::ButtonFace> make_button(front::ButtonListener& told) override {
-        auto button = std::make_unique<ShownButton>(told);
-        buttons.push_back(button.get());
-        return button;
-    }
-    void bring_to_front() override {}
-    void clear_focus() override {}
-    void refresh(const front::Rect*) override {}
-    void update_now() override {}
-    std::optional<front::Point> pointer() override { return std::nullopt; }
-    std::uintptr_t handle() override { return 0; }
-    void set_owner(front::WindowFace*) override {}
-    void choose(std::size_t menu, std::size_t entry) { listener.menu_chosen(menus.at(menu).children.at(entry).id); }
-
-    ShownWindow*& shown_as;
-    front::WindowListener& listener;
-    front::WindowDescription description;
-    std::vector<front::MenuDescription> menus;
-    std::vector<ShownButton*> buttons;  // in the order in which they were made
-};
+using test::ShownButton;
+using test::ShownWindow;
 
 struct ScriptedFront final : front::Front {
     using Script = std::function<void(ScriptedFront&)>;
@@ -81,11 +45,9 @@ struct ScriptedFront final : front::Front {
         return answer;
     }
 
-    ShownButton& button(std::string_view caption) const {
-        return **std::ranges::find(window->buttons, caption, [](auto* shown) { return shown->description.caption; });
-    }
+    ShownButton& button(std::string_view caption) const { return window->button(caption); }
     // Presses a disabled button too: it is for the core to refuse.
-    void press(std::string_view caption) const { button(caption).listener.pressed(); }
+    void press(std::string_view caption) const { button(caption).presses.pressed(); }
     // "Load Map", with this answer to its dialog.
     void load(std::optional<std::string> path) {
         answer = std::move(path);

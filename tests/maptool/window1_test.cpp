@@ -21,13 +21,13 @@ TEST_F(ToolWindow, It_and_its_buttons_are_shown_as_declared) {
         EXPECT_TRUE(window.close_button && window.minimize_button && window.menu_bar_visible);
         EXPECT_FALSE(window.resizable || window.maximize_button || window.full_screen);
         const front::ButtonDescription expected[] = {
-            {.name = "PushButton1", .caption = "Load Map", .bounds = {20, 14, 80, 20}, .tab_index = 0},
-            {.name = "NullBSP", .caption = "Null BSP", .bounds = {20, 46, 250, 20}, .tab_index = 1, .enabled = false},
-            {.name = "Undo", .caption = "Un-do Null", .bounds = {20, 78, 250, 20}, .tab_index = 2, .enabled = false},
+            {{.name = "PushButton1", .bounds = {20, 14, 80, 20}, .tab_index = 0}, "Load Map"},
+            {{.name = "NullBSP", .bounds = {20, 46, 250, 20}, .tab_index = 1, .enabled = false}, "Null BSP"},
+            {{.name = "Undo", .bounds = {20, 78, 250, 20}, .tab_index = 2, .enabled = false}, "Un-do Null"},
         };
-        ASSERT_EQ(front.window->buttons.size(), std::size(expected));
+        ASSERT_EQ(front.window->content.controls.size(), std::size(expected));
         for (std::size_t i = 0; i < std::size(expected); ++i) {
-            const front::ButtonDescription& shown = front.window->buttons[i]->description;
+            const auto& shown = dynamic_cast<ShownButton&>(*front.window->content.controls[i]).description;
             EXPECT_EQ(shown.name, expected[i].name);
             EXPECT_EQ(shown.caption, expected[i].caption);
             EXPECT_EQ(shown.bounds, expected[i].bounds) << shown.name;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/shown_controls.h"
 #include "toolkit/core/program.h"
 
 #include <string>
@@ -37,38 +38,28 @@ public:
     bool help_visible = true;
 
     // Can be shown, and shows nothing.
-    class Window final : public front::WindowFace {
+    class Window final : public ShownWindow {
     public:
-        Window(RecordingFront& record, front::WindowListener& told) : listener(told), record_(record) {
+        Window(RecordingFront& record, front::WindowListener& told) : ShownWindow(record.last_, told), record_(record) {
             record.windows.push_back(this);
         }
         ~Window() override { std::erase(record_.windows, this); }
         Window(const Window&) = delete;
         Window& operator=(const Window&) = delete;
 
-        front::WindowListener& listener;
-        front::WindowDescription description;
-        front::WindowFace* owner = nullptr;
+        void apply_menus(std::span<const front::MenuDescription> bar) override {
+            ShownWindow::apply_menus(bar);
+            record_.menus.push_back(menus);
+        }
 
     private:
-        void apply(const front::WindowDescription& window) override { description = window; }
-        void apply_menus(std::span<const front::MenuDescription> bar) override {
-            record_.menus.emplace_back(bar.begin(), bar.end());
-        }
-        std::unique_ptr<front::ButtonFace> make_button(front::ButtonListener&) override { return nullptr; }
-        void bring_to_front() override {}
-        void clear_focus() override {}
-        void refresh(const front::Rect*) override {}
-        void update_now() override {}
-        std::optional<front::Point> pointer() override { return std::nullopt; }
-        std::uintptr_t handle() override { return 0; }
-        void set_owner(front::WindowFace* above) override { owner = above; }
-
         RecordingFront& record_;
     };
     std::vector<Window*> windows;  // those with a face, in the order in which they came
 
 private:
+    ShownWindow* last_ = nullptr;
+
     class Front final : public front::Front {
     public:
         explicit Front(RecordingFront& record) : record_(record) {}

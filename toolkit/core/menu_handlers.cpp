@@ -1,13 +1,9 @@
 #include "toolkit/core/menu_handlers.h"
 
-#include "toolkit/core/control.h"
-
 #include <tavrik/dictionary.h>
-#include <tavrik/menu_item.h>
 #include <tavrik/variant.h>
 
-namespace tavrik {
-namespace core {
+namespace tavrik::core {
 
 void MenuHandlers::add(const String& item, Function handler) {
     handlers_.insert_or_assign(std::string(item.view()), handler);
@@ -24,10 +20,4 @@ bool MenuHandlers::call(Object* owner, std::string_view item) const {
     return reinterpret_cast<bool (*)(Object*)>(found->second)(owner);
 }
 
-}  // namespace core
-
-void ControlAddMenuHandler(Object* control, const String& item, Function handler) {
-    core::control_state(control).menu_handlers.add(item, handler);
-}
-
-}  // namespace tavrik
+}  // namespace tavrik::core

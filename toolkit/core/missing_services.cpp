@@ -1,4 +1,5 @@
 #include <tavrik/application.h>
+#include <tavrik/control.h>
 #include <tavrik/exception.h>
 #include <tavrik/folder_item.h>
 #include <tavrik/window.h>
@@ -14,6 +15,11 @@ namespace {
 }
 
 }  // namespace
+
+void RuntimeControlDrawInto(Object*, Object*, std::int32_t, std::int32_t) { raise_missing("Graphics"); }
+Ref<Object> controlNewDragItem(Object*, std::int32_t, std::int32_t, std::int32_t, std::int32_t) {
+    raise_missing("DragItem");
+}
 
 Ref<Object> folderOpenResourceFork(Object*) { raise_missing("ResourceFork"); }
 Ref<Object> folderCreateResourceFork(Object*, const String&) { raise_missing("ResourceFork"); }

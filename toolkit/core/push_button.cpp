@@ -1,21 +1,20 @@
 #include "toolkit/core/control.h"
 #include "toolkit/core/event_scope.h"
+#include "toolkit/core/pane.h"
 #include "toolkit/core/reflection.h"
-#include "toolkit/core/scheduler.h"
 
-#include <tavrik/exception.h>
+#include <tavrik/class_record.h>
 #include <tavrik/push_button.h>
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tavrik {
 namespace core {
 namespace {
 
 constinit Operation<void()> call_action{"PushButton", "_CallAction", "%%"};
-constinit Operation<void()> got_focus{"PushButton", "_GotFocus", "%%"};
-constinit Operation<void()> lost_focus{"PushButton", "_LostFocus", "%%"};
 
 class PushButtonState final : public ControlState, private front::ButtonListener {
 public:
@@ -25,64 +24,56 @@ public:
     bool is_default = false;
     bool is_cancel = false;
     front::TextStyle style;
-
-    void attach(front::WindowFace& window) override {
-        face_ = window.make_button(*this);
-        changed();
-    }
-    void detach() override {
-        on_main_stack([this] { face_.reset(); });
-    }
-
-    void changed() override {
-        if (!face_) return;
-        const front::ButtonDescription description{.name = std::string(text_property(self(), "Name").view()),
-                                                   .caption = caption,
-                                                   .bounds = bounds,
-                                                   .tab_index = tab_index,
-                                                   .visible = visible,
-                                                   .enabled = enabled,
-                                                   .is_default = is_default,
-                                                   .is_cancel = is_cancel,
-                                                   .help = help,
-                                                   .style = style};
-        on_main_stack([&] { face_->apply(description); });
-    }
-    void set_focus() override {
-        if (face_) on_main_stack([this] { face_->set_focus(); });
-    }
+    std::vector<Ref<Object>> receivers;
 
     void push() {
         const Ref<Object> kept(self());
-        if (enabled) call_action(self());
+        if (!enabled_throughout()) return;
+        for (const Ref<Object>& receiver : std::vector(receivers)) notify(receiver.object());
+        call_action(self());
+    }
+
+protected:
+    std::unique_ptr<front::ControlFace> make_face(front::ContainerFace& container,
+                                                  front::ControlListener& listener) override {
+        return container.make_button(listener, *this);
+    }
+    void apply_to(front::ControlFace& face) override {
+        front::ButtonDescription button;
+        describe(button);
+        button.caption = caption;
+        button.is_default = is_default;
+        button.is_cancel = is_cancel;
+        button.style = style;
+        static_cast<front::ButtonFace&>(face).apply(button);
     }
 
 private:
     void pressed() override {
         deliver([this] { push(); });
     }
-    void focus_changed(bool has_focus) override {
-        deliver([this, has_focus] {
-            const Ref<Object> kept(self());
-            has_focus ? got_focus(self()) : lost_focus(self());
-        });
-    }
 
-    std::unique_ptr<front::ButtonFace> face_;
+    void notify(Object* receiver) {
+        const Function* const operations =
+            RuntimeLookupInterfaceVtable(receiver, need_class("actionNotificationReceiver"));
+        reinterpret_cast<void (*)(Object*, Object*)>(operations[0])(receiver, self());
+    }
 };
 
-PushButtonState& state_of(Object* button) { return static_cast<PushButtonState&>(control_state(button)); }
+PushButtonState& state_of(Object* button, const char* call = __builtin_FUNCTION()) {
+    return static_cast<PushButtonState&>(control_state(button, call));
+}
 
 template <class Value>
-void set(Object* button, Value PushButtonState::*part, Value value) {
-    PushButtonState& state = state_of(button);
+void set(Object* button, Value PushButtonState::*part, Value value, const char* call = __builtin_FUNCTION()) {
+    PushButtonState& state = state_of(button, call);
     state.*part = std::move(value);
     state.changed();
 }
 
 template <class Value>
-void set_style(Object* button, Value front::TextStyle::*part, Value value) {
-    PushButtonState& state = state_of(button);
+void set_style(Object* button, Value front::TextStyle::*part, Value value, const char* call = __builtin_FUNCTION()) {
+    PushButtonState& state = state_of(button, call);
     state.style.*part = std::move(value);
     state.changed();
 }
@@ -98,6 +89,14 @@ std::unique_ptr<ControlState> make_push_button_state(Object* button) {
 using core::state_of;
 using State = core::PushButtonState;
 using Style = front::TextStyle;
+
+void pbAddActionNotificationReceiver(Object* button, Object* receiver) {
+    if (receiver == nullptr) RaiseNilObjectException();
+    state_of(button).receivers.emplace_back(receiver);
+}
+void pbRemoveActionNotificationReceiver(Object* button, Object* receiver) {
+    std::erase(state_of(button).receivers, Ref<Object>(receiver));
+}
 
 void PushButtonCreatePane(Object* button) { core::create_pane(button); }
 void PushButtonDestructor(Object* button) { state_of(button).detach(); }

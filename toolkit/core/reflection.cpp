@@ -138,7 +138,13 @@ std::int32_t find_field(std::string_view class_name, std::string_view field) {
     return property->parameter;
 }
 
-std::int32_t ObjectField::offset() {
+const PropertyRecord& need_property(std::string_view class_name, std::string_view name) {
+    const PropertyRecord* const property = find_property(need_class(class_name), name);
+    if (property == nullptr) raise_missing(class_name, "property", name);
+    return *property;
+}
+
+std::int32_t FieldPlace::offset() {
     if (offset_ < 0) offset_ = find_field(class_name_, name_);
     return offset_;
 }
@@ -146,6 +152,12 @@ std::int32_t ObjectField::offset() {
 Ref<Object> ObjectField::get(const Object* object) { return objGetter(object, offset()); }
 
 void ObjectField::set(Object* object, Object* value) { objSetter(object, offset(), value); }
+
+Object* ObjectField::peek(const Object* object) {
+    Object* value;
+    std::memcpy(&value, reinterpret_cast<const std::byte*>(object) + offset(), sizeof value);
+    return value;
+}
 
 }  // namespace core
 }  // namespace tavrik

@@ -4,6 +4,8 @@
 #include <tavrik/object.h>
 #include <tavrik/string.h>
 
+#include <cstddef>
+#include <cstring>
 #include <string_view>
 #include <type_traits>
 
@@ -31,6 +33,8 @@ std::int32_t find_slot(std::string_view class_name, std::string_view operation, 
 Function find_shared(std::string_view class_name, std::string_view method, std::string_view signature);
 std::int32_t find_event(std::string_view class_name, std::string_view event);
 std::int32_t find_field(std::string_view class_name, std::string_view field);
+// Raises FunctionNotFoundException if the class has none of that name.
+const PropertyRecord& need_property(std::string_view class_name, std::string_view property);
 
 template <class Call>
 class Operation;
@@ -105,20 +109,72 @@ private:
     std::int32_t index_ = -1;
 };
 
-// A field that a class declares, which holds an object.
-class ObjectField {
+// Where a field that a class declares lies in its objects.
+class FieldPlace {
 public:
-    constexpr ObjectField(const char* class_name, const char* name) : class_name_(class_name), name_(name) {}
+    constexpr FieldPlace(const char* class_name, const char* name) : class_name_(class_name), name_(name) {}
 
-    Ref<Object> get(const Object* object);
-    void set(Object* object, Object* value);
-
-private:
+protected:
     std::int32_t offset();
 
+private:
     const char* class_name_;
     const char* name_;
     std::int32_t offset_ = -1;
+};
+
+// A field that holds an object.
+class ObjectField : FieldPlace {
+public:
+    using FieldPlace::FieldPlace;
+
+    Ref<Object> get(const Object* object);
+    void set(Object* object, Object* value);
+    // Without a count of its own.
+    Object* peek(const Object* object);
+};
+
+// A field that holds a number or a Boolean.
+template <class T>
+class PlainField : FieldPlace {
+public:
+    using FieldPlace::FieldPlace;
+
+    T get(const Object* object) {
+        T value;
+        std::memcpy(&value, reinterpret_cast<const std::byte*>(object) + offset(), sizeof value);
+        return value;
+    }
+    void set(Object* object, T value) {
+        std::memcpy(reinterpret_cast<std::byte*>(object) + offset(), &value, sizeof value);
+    }
+};
+
+// A property as a class declares it, with accessors of an object and a number.
+template <class T>
+class Property {
+public:
+    constexpr Property(const char* class_name, const char* name) : class_name_(class_name), name_(name) {}
+
+    T get(Object* object) {
+        const PropertyRecord& it = record();
+        return reinterpret_cast<T (*)(Object*, std::int32_t)>(it.getter)(object, it.parameter);
+    }
+    template <class Argument>
+    void set(Object* object, Argument value) {
+        const PropertyRecord& it = record();
+        reinterpret_cast<void (*)(Object*, std::int32_t, Argument)>(it.setter)(object, it.parameter, value);
+    }
+
+private:
+    const PropertyRecord& record() {
+        if (record_ == nullptr) record_ = &need_property(class_name_, name_);
+        return *record_;
+    }
+
+    const char* class_name_;
+    const char* name_;
+    const PropertyRecord* record_ = nullptr;
 };
 
 }  // namespace tavrik::core

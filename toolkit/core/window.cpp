@@ -5,6 +5,7 @@
 #include "toolkit/core/main_thread.h"
 #include "toolkit/core/mdi_window.h"
 #include "toolkit/core/menu_item.h"
+#include "toolkit/core/pane.h"
 #include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/scheduler.h"
@@ -38,6 +39,12 @@ void open_controls(Object* window) {
     for (std::int32_t i = 0; i <= controls->upper_bound(); ++i) call_open_event(controls->at(i).object());
 }
 
+void find_initial_parents(Object* window) {
+    const auto controls = control_list(window);
+    for (std::int32_t i = 0; i <= controls->upper_bound(); ++i)
+        control_state(controls->at(i).object()).find_initial_parent();
+}
+
 void open(Object* window) {
     window_state(window).opened = true;
     opened_event(window);
@@ -46,8 +53,10 @@ void open(Object* window) {
 // Any step may close the window, which is the end of its construction.
 void construct(Object* window) {
     constexpr void (*kSteps[])(Object*) = {
+        create_content_pane,
         [](Object* self) { layout(self); },
         [](Object* self) { create_controls(self); },
+        find_initial_parents,
         [](Object* self) { add_menu_handlers(self, self); },
         [](Object* self) { setup_bindings(self); },
         open_controls,

@@ -58,7 +58,13 @@ public:
     void set_owner(Object* owner);
     void set_modality(front::Modality modality);
 
+    // Gives the control a face, if what it lies in has one.
     void attach(ControlState& control);
+    // The pointer's place in the content; its corner where there is no pointer.
+    front::Point pointer() const;
+    bool active() const { return active_; }
+    // A key that no control has used. Whether the window has.
+    bool press_key(const front::Key& key);
 
     // Once Open has been raised: controls that come later are opened as they come.
     bool opened = false;
@@ -67,6 +73,14 @@ public:
     Closing closing = Closing::kNo;
 
 private:
+    bool mouse_down(front::Point at, front::MouseButton button) override;
+    void mouse_dragged(front::Point at) override;
+    void mouse_up(front::Point at) override;
+    bool mouse_wheel(front::Point at, int delta_x, int delta_y) override;
+    bool key_down(const front::Key& key) override;
+    bool menu_requested(front::Point at) override;
+    void mouse_moved(front::Point at) override;
+    void mouse_left() override;
     void close_requested() override;
     void activated(bool active) override;
     void moved(int left, int top) override;
@@ -79,6 +93,8 @@ private:
     void take(Report report);
 
     void make_face();
+    // The controls keep to their locks when the content has another size.
+    void lay_out();
     front::WindowDescription described() const;
     bool fills_screen() const;
     front::Rect& bounds_now();
@@ -94,6 +110,8 @@ private:
     front::WindowSize told_size_state_ = front::WindowSize::kNormal;
     bool menus_stale_ = false;
     std::unique_ptr<front::WindowFace> face_;
+    front::Rect laid_out_;  // the size that the controls have followed
+    bool active_ = false;
 };
 
 WindowState& window_state(Object* window, const char* call = __builtin_FUNCTION());

@@ -65,6 +65,7 @@ void WindowAddControl(Object* window, const String& name, Object* control) {
     core::control_list(window)->append(Arg<Object>(control));
     core::ControlState& added = core::control_state(control);
     added.enter(window);
+    if (core::text_property(control, "Name").view().empty()) core::set_text_property(control, "Name", name);
     core::set_window(control, window);
     if (state.opened) core::call_open_event(control);
     state.attach(added);

@@ -2,6 +2,7 @@
 
 #include "toolkit/core/application.h"
 #include "toolkit/core/mdi_window.h"
+#include "toolkit/core/pane.h"
 #include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
 
@@ -75,6 +76,7 @@ void end(Object* window) {
     state.set_owner(nullptr);
     state.set_menu_bar(nullptr);
     state.backdrop = nullptr;
+    close_content_pane(window);
     mdi_windows_lose(window);
     remove_dirty_window(window);
     std::erase(implicit_windows().instances, window);

@@ -3,6 +3,7 @@
 #include "toolkit/core/main_thread.h"
 #include "toolkit/core/mdi_window.h"
 #include "toolkit/core/menu_item.h"
+#include "toolkit/core/pane.h"
 #include "toolkit/core/program.h"
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/scheduler.h"
@@ -11,6 +12,7 @@
 
 #include <tavrik/exception.h>
 #include <tavrik/window.h>
+#include <tavrik/wrapping.h>
 
 #include <algorithm>
 #include <utility>
@@ -76,6 +78,7 @@ front::Rect& WindowState::bounds_now() {
 void WindowState::tell_bounds(const front::Rect& before) {
     const Ref<Object> self(self_);
     const front::Rect now = bounds();
+    lay_out();
     if (opened && (now.left != before.left || now.top != before.top)) call_moved(self_);
     if (opened && (now.width != before.width || now.height != before.height)) call_resized(self_);
 }
@@ -138,11 +141,34 @@ void WindowState::make_face() {
     face_->apply(hidden);
     menus_stale_ = true;
     apply_menus();
-    for_each_control(self_, [this](const Ref<Object>& control) { attach(control_state(control.object())); });
+    for_each_control(self_, [this](const Ref<Object>& each) {
+        ControlState& control = control_state(each.object());
+        if (control.parent() == nullptr) attach(control);
+    });
 }
 
 void WindowState::attach(ControlState& control) {
-    if (face_) on_main_stack([&] { control.attach(*face_); });
+    front::ContainerFace* container = face_.get();
+    if (control.parent() != nullptr) container = control.parent()->face();
+    if (container != nullptr) on_main_stack([&] { control.attach(*container); });
+}
+
+void WindowState::lay_out() {
+    const front::Rect now = bounds();
+    const front::Rect change{0, 0, wrapping_difference(now.width, laid_out_.width),
+                             wrapping_difference(now.height, laid_out_.height)};
+    if (change == front::Rect()) return;
+    laid_out_ = now;
+    set_content_size(self_, now.width, now.height);
+    for_each_control(self_, [&](const Ref<Object>& each) {
+        ControlState& control = control_state(each.object());
+        if (control.parent() == nullptr) control.follow_parent(change);
+    });
+}
+
+front::Point WindowState::pointer() const {
+    if (!face_) return {};
+    return on_main_stack([this] { return face_->pointer(); }).value_or(front::Point());
 }
 
 void WindowState::show() {
@@ -218,6 +244,7 @@ void WindowState::close_requested() {
 
 void WindowState::activated(bool active) {
     take([this, active] {
+        active_ = active;
         if (active) move_to_front(self_);
         active ? call_activated(self_) : call_deactivated(self_);
     });
@@ -240,6 +267,7 @@ void WindowState::resized(int width, int height, front::ResizePhase phase) {
         bounds_now().width = width;
         bounds_now().height = height;
         if (!under_way) before_resize_.reset();
+        lay_out();
         under_way ? call_resizing(self_) : call_resized(self_);
     });
 }
@@ -255,6 +283,7 @@ void WindowState::size_state_changed(front::WindowSize now) {
             filled_ = here;
             if (before_resize_) description.content = *std::exchange(before_resize_, std::nullopt);
         }
+        lay_out();
         tell_size_state();
     });
 }

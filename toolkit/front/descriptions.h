@@ -28,13 +28,6 @@ struct Rect {
     bool operator==(const Rect&) const = default;
 };
 
-struct Point {
-    int left = 0;
-    int top = 0;
-
-    bool operator==(const Point&) const = default;
-};
-
 enum class CursorShape {
     kArrow,
     kIBeam,
@@ -56,13 +49,12 @@ struct CursorImage {
     int width = 0;
     int height = 0;
     Point hot_spot;
-    std::vector<std::uint32_t> pixels;  // ARGB, not premultiplied, row by row
+    std::vector<std::uint32_t> pixels;  // 0xAARRGGBB, not premultiplied, row by row
 };
 
-// The image where there is one, else the shape.
 struct Cursor {
     CursorShape shape = CursorShape::kArrow;
-    std::shared_ptr<const CursorImage> image;
+    std::shared_ptr<const CursorImage> image;  // in place of the shape
 
     bool operator==(const Cursor&) const = default;
 };
@@ -121,48 +113,40 @@ struct TextStyle {
     bool operator==(const TextStyle&) const = default;
 };
 
-enum class CursorShape {
-    kArrow,
-    kIBeam,
-    kCross,
-    kWait,
-    kPointingHand,
-    kOpenHand,
-    kClosedHand,
-    kResizeHorizontal,
-    kResizeVertical,
-    kResizeUpLeft,
-    kResizeUpRight,
-    kResizeAll,
-    kForbidden,
-    kBlank,
+enum class MouseButton { kPrimary, kSecondary, kMiddle };
+
+// A key that was pressed, or that repeats itself.
+struct Key {
+    std::string text;   // what it types, or one control character for a key that types nothing (see keys.h)
+    int code = 0;       // the desktop's own number of the key
+    int modifiers = 0;  // 1 Shift, 2 the platform's command key, 4 Alt, 8 the fourth one
 };
 
-struct CursorImage {
-    int width = 0;
-    int height = 0;
-    Point hot_spot;
-    std::vector<std::uint32_t> pixels;  // 0xAARRGGBB, not premultiplied, row by row
-};
-
-struct Cursor {
-    CursorShape shape = CursorShape::kArrow;
-    std::shared_ptr<const CursorImage> image;  // in place of the shape
-
-    bool operator==(const Cursor&) const = default;
-};
-
-struct ButtonDescription {
-    std::string name;     // the control's name, for who drives the program from outside
-    std::string caption;  // may hold "&" before a mnemonic letter; "&&" is a plain one
-    Rect bounds;
+// What controls of all kinds have in common.
+struct ControlDescription {
+    std::string name;  // for who drives the program from outside
+    Rect bounds;       // relative to what the control lies in
     int tab_index = 0;
     bool visible = true;
     bool enabled = true;
+    bool looks_inactive_with_window = true;
+    std::string help;
+    std::optional<Cursor> cursor;
+};
+
+struct ButtonDescription : ControlDescription {
+    std::string caption;  // may hold "&" before a mnemonic letter; "&&" is a plain one
     bool is_default = false;
     bool is_cancel = false;
-    std::string help;
     TextStyle style;
+};
+
+struct CanvasDescription : ControlDescription {
+    bool accepts_focus = false;
+    bool accepts_tabs = false;  // the Tab key is typed into it like any other
+    bool focus_ring = true;
+    bool erases_background = true;
+    std::optional<std::uint32_t> background;  // 0xRRGGBB
 };
 
 using MenuId = std::uint64_t;

@@ -16,27 +16,88 @@
 // boundaries: nothing thrown leaves them. A listener may destroy the very face that reports to it.
 namespace tavrik::front {
 
+// Positions are relative to what listens.
+class InputListener {
+public:
+    // True: the press is taken over, so that drags and the release follow, and what the desktop would do with it is
+    // left out.
+    virtual bool mouse_down(Point at, MouseButton button) = 0;
+    virtual void mouse_dragged(Point at) = 0;
+    virtual void mouse_up(Point at) = 0;
+    // How far in lines. False leaves it to what lies below.
+    virtual bool mouse_wheel(Point at, int delta_x, int delta_y) = 0;
+    // True: the key is used up.
+    virtual bool key_down(const Key& key) = 0;
+    // A contextual menu was asked for, by mouse or by key. False leaves it to what lies below.
+    virtual bool menu_requested(Point at) = 0;
+
+protected:
+    ~InputListener() = default;
+};
+
+class ControlListener : public InputListener {
+public:
+    virtual void focus_changed(bool has_focus) = 0;
+
+protected:
+    ~ControlListener() = default;
+};
+
 class ButtonListener {
 public:
     virtual void pressed() = 0;
-    virtual void focus_changed(bool has_focus) = 0;
 
 protected:
     ~ButtonListener() = default;
 };
 
-class ButtonFace {
+class ButtonFace;
+class CanvasFace;
+class PanelFace;
+
+// What controls lie in: a window, or another control. A face ends before what it lies in does.
+class ContainerFace {
 public:
-    virtual ~ButtonFace() = default;
-    virtual void apply(const ButtonDescription& button) = 0;
+    virtual ~ContainerFace() = default;
+    virtual std::unique_ptr<ButtonFace> make_button(ControlListener& control, ButtonListener& button) = 0;
+    virtual std::unique_ptr<CanvasFace> make_canvas(ControlListener& control) = 0;
+    virtual std::unique_ptr<PanelFace> make_panel(ControlListener& control) = 0;
+};
+
+class ControlFace : public ContainerFace {
+public:
     virtual void set_focus() = 0;
+    // Has it drawn anew, or a part of it.
+    virtual void refresh(const Rect* part) = 0;
+    // The window system's identifier; 0 if it has none.
+    virtual std::uintptr_t handle() = 0;
+};
+
+class ButtonFace : public ControlFace {
+public:
+    virtual void apply(const ButtonDescription& button) = 0;
+};
+
+class CanvasFace : public ControlFace {
+public:
+    virtual void apply(const CanvasDescription& canvas) = 0;
+};
+
+// Shows nothing of its own.
+class PanelFace : public ControlFace {
+public:
+    virtual void apply(const ControlDescription& panel) = 0;
 };
 
 // kUnderWay while the person drags, kDone at the end of that and for any other change.
 enum class ResizePhase { kUnderWay, kDone };
 
-class WindowListener {
+// Input is what no control has taken.
+class WindowListener : public InputListener {
 public:
+    // Every move inside of the content, whatever lies there; and that the pointer has left it.
+    virtual void mouse_moved(Point at) = 0;
+    virtual void mouse_left() = 0;
     // The person asked to close the window; the core decides, and destroys the face if it agrees.
     virtual void close_requested() = 0;
     virtual void activated(bool active) = 0;
@@ -51,12 +112,10 @@ protected:
     ~WindowListener() = default;
 };
 
-class WindowFace {
+class WindowFace : public ContainerFace {
 public:
-    virtual ~WindowFace() = default;
     virtual void apply(const WindowDescription& window) = 0;
     virtual void apply_menus(std::span<const MenuDescription> menus) = 0;
-    virtual std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) = 0;
     virtual void bring_to_front() = 0;
     virtual void clear_focus() = 0;
     // A part of the content, or all of it for nullptr, is to be painted anew.

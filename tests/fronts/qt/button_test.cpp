@@ -8,7 +8,7 @@ namespace {
 class QtButton : public QtFrontTest {
 protected:
     QtButton() {
-        for (RecordingButton& button : listeners) faces.push_back(face->make_button(button));
+        for (RecordingButton& button : listeners) faces.push_back(face->make_button(button, button));
     }
 
     void apply_buttons() {
@@ -25,9 +25,9 @@ protected:
     std::vector<int> presses() const { return {listeners[0].presses, listeners[1].presses, listeners[2].presses}; }
     std::vector<bool> focus() const { return {listeners[0].focused, listeners[1].focused, listeners[2].focused}; }
 
-    ButtonDescription load{.name = "Load", .caption = "&Load Map", .bounds = {20, 13, 250, 20}, .tab_index = 0};
-    ButtonDescription null{.name = "Null", .caption = "Null", .bounds = {20, 45, 250, 20}, .tab_index = 1};
-    ButtonDescription undo{.name = "Undo", .caption = "Undo", .bounds = {20, 77, 250, 20}, .tab_index = 2};
+    ButtonDescription load{{.name = "Load", .bounds = {20, 13, 250, 20}, .tab_index = 0}, "&Load Map"};
+    ButtonDescription null{{.name = "Null", .bounds = {20, 45, 250, 20}, .tab_index = 1}, "Null"};
+    ButtonDescription undo{{.name = "Undo", .bounds = {20, 77, 250, 20}, .tab_index = 2}, "Undo"};
     ButtonDescription* const buttons[3] = {&load, &null, &undo};
     RecordingButton listeners[3];
     std::vector<std::unique_ptr<ButtonFace>> faces;

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "tests/support/quiet_listeners.h"
 #include "toolkit/front/front.h"
 #include "toolkit/fronts/qt/window_face.h"
 
 #include <QApplication>
 #include <QDialog>
+#include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -33,7 +35,7 @@ struct RecordingApplication final : ApplicationListener {
     std::vector<std::string> documents;
 };
 
-struct RecordingWindow final : WindowListener {
+struct RecordingWindow final : test::QuietWindow {
     void close_requested() override { record("close"); }
     void activated(bool active) override { record(active ? "active" : "inactive"); }
     void moved(int left, int top) override { record("moved " + std::to_string(left) + ' ' + std::to_string(top)); }
@@ -54,7 +56,7 @@ struct RecordingWindow final : WindowListener {
     std::map<std::string, std::function<void()>> once;  // what to do at the first such report
 };
 
-struct RecordingButton final : ButtonListener {
+struct RecordingButton final : test::QuietControl, ButtonListener {
     void pressed() override {
         ++presses;
         on_pressed();

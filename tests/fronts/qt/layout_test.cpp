@@ -10,8 +10,8 @@ namespace {
 class QtLayout : public QtFrontTest {
 protected:
     void add(const std::string& caption, Rect bounds) {
-        faces_.push_back(face->make_button(listener_));
-        faces_.back()->apply({.name = caption, .caption = caption, .bounds = bounds});
+        faces_.push_back(face->make_button(listener_, listener_));
+        faces_.back()->apply({{.name = caption, .bounds = bounds}, caption});
     }
 
     static bool caption_fits(const QPushButton& button) {

@@ -18,7 +18,8 @@ protected:
                   told.title.empty() ? QCoreApplication::applicationName().toStdString() : told.title);
         const bool fills_screen = told.full_screen || told.size_state == WindowSize::kMaximized;
         if (!fills_screen && told.visible && told.size_state != WindowSize::kMinimized) {
-            EXPECT_EQ(shown.content().size(), QSize(told.content.width, told.content.height));
+            const QSize size(told.content.width, told.content.height);
+            EXPECT_TRUE(QTest::qWaitFor([&] { return shown.content().size() == size; }));
         }
         EXPECT_EQ(shown.isMinimized(), told.size_state == WindowSize::kMinimized);
         EXPECT_EQ(shown.isFullScreen(), told.full_screen);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/quiet_listeners.h"
 #include "toolkit/fronts/terminal/descriptor.h"
 #include "toolkit/fronts/terminal/terminal_front.h"
 
@@ -54,19 +55,14 @@ private:
 
 using Reports = std::vector<std::string>;
 
-struct FakeButton final : ButtonListener {
+struct FakeButton final : test::QuietControl, ButtonListener {
     void pressed() override { when_pressed(); }
-    void focus_changed(bool) override {}
 
     std::function<void()> when_pressed;
 };
 
-struct FakeWindow final : WindowListener {
-    void close_requested() override {}
+struct FakeWindow final : test::QuietWindow {
     void activated(bool active) override { when_activated(active); }
-    void moved(int, int) override {}
-    void resized(int, int, ResizePhase) override {}
-    void size_state_changed(WindowSize) override {}
     void menus_opening() override { when_menus_open(); }
     void menu_chosen(MenuId chosen) override { when_chosen(chosen); }
 
@@ -96,8 +92,8 @@ public:
         null_listener.when_pressed = [this] { reports.push_back("null"); };
         window->apply({.title = "maptool", .visible = true});
         apply_quit(true);
-        load->apply({.caption = "&Load"});
-        null->apply({.caption = "Null", .enabled = false});
+        load->apply({{}, "&Load"});
+        null->apply({{.enabled = false}, "Null"});
     }
 
     void apply_quit(bool enabled) const {
@@ -121,12 +117,13 @@ public:
     Pipe output;
     std::unique_ptr<Front> front = make_terminal_front({"tool", application}, input.read_end(), output.write_end());
     std::unique_ptr<WindowFace> window = front->make_window(window_listener);
-    std::unique_ptr<ButtonFace> load = window->make_button(load_listener);
-    std::unique_ptr<ButtonFace> null = window->make_button(null_listener);
+    std::unique_ptr<ButtonFace> load = window->make_button(load_listener, load_listener);
+    std::unique_ptr<ButtonFace> null = window->make_button(null_listener, null_listener);
 };
 
 inline constexpr const char* kScreen = "maptool\nFile: Quit\n1. Load\n2. Null (off)\n";
 
-inline constexpr const char* kHelp = "Type the number or the caption of a control, or Menu/Entry.\n";
+inline constexpr const char* kHelp =
+    "Type the number or the caption of a control, Menu/Entry, or menu and a control.\n";
 
 }  // namespace tavrik::front::terminal

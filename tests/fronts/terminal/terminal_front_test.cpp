@@ -22,11 +22,11 @@ TEST(TerminalFront, A_line_presses_a_button_or_chooses_an_entry_or_is_answered_w
 TEST(TerminalFront, Each_change_is_printed_before_the_next_line_is_taken) {
     Program program;
     FakeButton hidden_listener;
-    const auto hidden = program.window->make_button(hidden_listener);
-    hidden->apply({.caption = "Hidden", .visible = false});
+    const auto hidden = program.window->make_button(hidden_listener, hidden_listener);
+    hidden->apply({{.visible = false}, "Hidden"});
     program.load_listener.when_pressed = [&] {
-        program.null->apply({.caption = "Null"});
-        program.load->apply({.caption = "Load", .tab_index = 1});
+        program.null->apply({{}, "Null"});
+        program.load->apply({{.tab_index = 1}, "Load"});
         program.window->apply({.title = "valley\n1. Forged", .visible = true, .menu_bar_visible = false});
     };
     EXPECT_EQ(program.run("1\n1\nFile/Quit\n"),
@@ -93,7 +93,7 @@ TEST(TerminalFront, A_wake_up_comes_when_it_is_time_beside_lines_and_under_a_mes
     Program program;
     int runs = 0;
     program.application.when_woken = [&] {
-        program.null->apply({.caption = std::to_string(++runs)});
+        program.null->apply({{}, std::to_string(++runs)});
         if (runs == 4) return program.front->quit();
         program.front->wake_in(std::chrono::milliseconds(runs));
     };

@@ -4,7 +4,6 @@
 #include "toolkit/fronts/qt/text_font.h"
 
 #include <QApplication>
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -13,35 +12,31 @@
 
 namespace tavrik::front::qt {
 
-Button::Button(ButtonListener& listener, QWidget* parent) : QPushButton(parent), listener_(&listener) {
+Button::Button(Container& outer, ControlListener& control, ButtonListener& button) : ControlWidget(outer, control) {
     setFocusPolicy(Qt::StrongFocus);
     setAutoDefault(false);
-    connect(this, &QPushButton::clicked, this, [this] {
-        if (listener_) listener_->pressed();
+    connect(this, &QPushButton::clicked, this, [this, &button] {
+        if (reports()) button.pressed();
     });
 }
 
 void Button::apply(const ButtonDescription& button) {
-    const bool style_changed = button.style != description_.style;
-    description_ = button;
-
-    setObjectName(to_qt(button.name));
-    setText(caption());
-    setAccessibleName(without_mnemonic(caption()));
-    setAccessibleDescription(to_qt(button.help));
+    Control::apply(button);
+    caption_ = to_qt(button.caption);
+    help_ = to_qt(button.help);
+    setText(caption_);
+    if (!help_.isEmpty() || !accessibleDescription().isEmpty()) setAccessibleDescription(help_);
     apply_help(false);
-    if (style_changed) setFont(styled(QApplication::font(this), button.style));
-    setDefault(button.is_default);
-    setEnabled(button.enabled);
-    setVisible(button.visible);
+    if (button.style != style_) {
+        style_ = button.style;
+        setFont(styled(QApplication::font(this), style_));
+    }
+    is_default_ = button.is_default;
+    is_cancel_ = button.is_cancel;
+    setDefault(is_default_);
 }
 
-QRect Button::declared_bounds() const {
-    const Rect& bounds = description_.bounds;
-    return {bounds.left, bounds.top, bounds.width, bounds.height};
-}
-
-int Button::wanted_height() const { return std::max(description_.bounds.height, sizeHint().height()); }
+int Button::wanted_height() const { return std::max(Control::wanted_height(), sizeHint().height()); }
 
 int Button::wanted_width() const {
     const QSize size = declared_bounds().size();
@@ -52,25 +47,11 @@ int Button::wanted_width() const {
 void Button::place(const QRect& rect) {
     const int room = room_for_caption(rect.size()).width();
     const bool too_long = caption_width() > room;
-    setText(too_long ? fontMetrics().elidedText(caption(), Qt::ElideRight, room, Qt::TextShowMnemonic) : caption());
+    // Who can't see it reads the whole one.
+    if (too_long || !accessibleName().isEmpty()) setAccessibleName(without_mnemonic(caption_));
+    setText(too_long ? fontMetrics().elidedText(caption_, Qt::ElideRight, room, Qt::TextShowMnemonic) : caption_);
     apply_help(too_long);
     setGeometry(rect);
-}
-
-void Button::retire() {
-    listener_ = nullptr;
-    hide();
-    deleteLater();
-}
-
-void Button::focusInEvent(QFocusEvent* event) {
-    QPushButton::focusInEvent(event);
-    report_focus(*event, true);
-}
-
-void Button::focusOutEvent(QFocusEvent* event) {
-    QPushButton::focusOutEvent(event);
-    report_focus(*event, false);
 }
 
 void Button::keyPressEvent(QKeyEvent* event) {
@@ -79,8 +60,6 @@ void Button::keyPressEvent(QKeyEvent* event) {
     is_return ? event->ignore() : QPushButton::keyPressEvent(event);
 }
 
-QString Button::caption() const { return to_qt(description_.caption); }
-
 QRect Button::room_for_caption(QSize size) const {
     QStyleOptionButton option;
     initStyleOption(&option);
@@ -88,19 +67,14 @@ QRect Button::room_for_caption(QSize size) const {
     return style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
 }
 
-int Button::caption_width() const { return fontMetrics().size(Qt::TextShowMnemonic, caption()).width(); }
+int Button::caption_width() const { return fontMetrics().size(Qt::TextShowMnemonic, caption_).width(); }
 
 void Button::apply_help(bool caption_shortened) {
     QStringList lines;
-    if (caption_shortened) lines << without_mnemonic(caption());
-    if (!description_.help.empty()) lines << to_qt(description_.help);
-    setToolTip(as_plain_tool_tip(lines.join(u'\n')));
-}
-
-void Button::report_focus(const QFocusEvent& event, bool has_focus) {
-    // An open menu borrows the keys; the control keeps the focus.
-    if (event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason) return;
-    if (listener_) listener_->focus_changed(has_focus);
+    if (caption_shortened) lines << without_mnemonic(caption_);
+    if (!help_.isEmpty()) lines << help_;
+    const QString tip = as_plain_tool_tip(lines.join(u'\n'));
+    if (tip != toolTip()) setToolTip(tip);
 }
 
 }  // namespace tavrik::front::qt

@@ -1,44 +1,38 @@
 #pragma once
 
-#include "toolkit/front/front.h"
+#include "toolkit/fronts/qt/control.h"
 
 #include <QPushButton>
 
 namespace tavrik::front::qt {
 
-class Button final : public QPushButton {
+class Button final : public ControlWidget<QPushButton> {
 public:
-    Button(ButtonListener& listener, QWidget* parent);
+    Button(Container& outer, ControlListener& control, ButtonListener& button);
 
     void apply(const ButtonDescription& button);
-    const ButtonDescription& description() const { return description_; }
-    QRect declared_bounds() const;
-    bool takes_part() const { return description_.visible && description_.enabled; }
+    bool is_default() const { return is_default_; }
+    bool is_cancel() const { return is_cancel_; }
 
-    // The least height at which the desktop's style draws the button whole, and the least width that shows the caption.
-    int wanted_height() const;
-    int wanted_width() const;
-    // Moves the button, and shortens the caption if it doesn't fit.
-    void place(const QRect& rect);
-
-    // Reports nothing any more, disappears, and is deleted when no event of its own is under way.
-    void retire();
+    int wanted_height() const override;
+    int wanted_width() const override;
+    // Shortens the caption if it doesn't fit.
+    void place(const QRect& rect) override;
 
 protected:
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QString caption() const;
     // What the style leaves for the caption in a button of this size.
     QRect room_for_caption(QSize size) const;
     int caption_width() const;
     void apply_help(bool caption_shortened);
-    void report_focus(const QFocusEvent& event, bool has_focus);
 
-    ButtonListener* listener_;
-    ButtonDescription description_;
+    QString caption_;
+    QString help_;
+    TextStyle style_;
+    bool is_default_ = false;
+    bool is_cancel_ = false;
 };
 
 }  // namespace tavrik::front::qt

@@ -1,22 +1,25 @@
 #pragma once
 
-#include "toolkit/fronts/qt/button.h"
+#include "toolkit/fronts/qt/container.h"
+#include "toolkit/fronts/qt/input_reports.h"
 
 #include <QWidget>
 
+#include <optional>
 #include <vector>
+
+class QMouseEvent;
 
 namespace tavrik::front::qt {
 
-// What a window holds below its menu bar: the controls, where they stand, and which one the keys go to.
+class Button;
+
+// What a window holds below its menu bar: the controls, and which one the keys go to.
 class Content final : public QWidget {
 public:
-    explicit Content(QWidget* parent);
+    Content(QWidget* parent, WindowListener& listener);
 
-    Button* add_button(ButtonListener& listener);
-    void remove_button(Button& button);
-    // Places the controls anew, once for all that changes until then.
-    void arrange_later();
+    Container& container() { return container_; }
     void arrange();
 
     Button* default_button() const;
@@ -24,19 +27,25 @@ public:
     // Nothing in here reports any more.
     void retire();
 
+    // Tells the window of a widget where the pointer has moved to.
+    static void report_pointer(const QWidget& widget, const QMouseEvent& event);
+
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void place_buttons();
     void order_tabs();
     void focus_first_if_none();
-    Button* find_usable(bool ButtonDescription::*mark) const;
+    Button* find_usable(bool (Button::*is_marked)() const) const;
+    void report_pointer_at(QPoint position);
 
-    std::vector<Button*> buttons_;  // in order of creation
-    std::vector<Button*> tab_order_;
+    WindowListener* listener_;
+    Container container_;
+    InputReports input_;
+    std::vector<Control*> tab_order_;
+    std::optional<QPoint> pointer_;
 };
 
 }  // namespace tavrik::front::qt

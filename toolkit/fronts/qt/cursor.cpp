@@ -28,4 +28,12 @@ QCursor to_qt(const Cursor& cursor) {
     return cursor.image ? of_image(*cursor.image) : QCursor(kShapes.at(static_cast<std::size_t>(cursor.shape)));
 }
 
+void apply_cursor(QWidget& widget, const std::optional<Cursor>& cursor) {
+    if (cursor) {
+        widget.setCursor(to_qt(*cursor));
+    } else if (widget.testAttribute(Qt::WA_SetCursor)) {
+        widget.unsetCursor();
+    }
+}
+
 }  // namespace tavrik::front::qt

@@ -16,13 +16,15 @@ int half_of(int gap) { return std::max(0, (gap - kLeastGap) / 2); }
 
 }  // namespace
 
-QRect fit_height(const QRect& bounds, int height, const std::vector<QRect>& neighbours, int content_height) {
+QRect fit_height(const std::vector<QRect>& rects, std::size_t which, int height, int content_height) {
+    const QRect& bounds = rects[which];
     const int need = height - bounds.height();
     if (need <= 0) return bounds;
 
     int above = std::max(0, bounds.top());
     int below = std::max(0, content_height - bottom_of(bounds));
-    for (const QRect& other : neighbours) {
+    for (const QRect& other : rects) {
+        if (&other == &bounds) continue;
         if (!share_columns(bounds, other)) continue;
         if (bottom_of(other) <= bounds.top()) above = std::min(above, half_of(bounds.top() - bottom_of(other)));
         if (other.top() >= bottom_of(bounds)) below = std::min(below, half_of(other.top() - bottom_of(bounds)));
@@ -34,12 +36,14 @@ QRect fit_height(const QRect& bounds, int height, const std::vector<QRect>& neig
     return bounds.adjusted(0, -up, 0, down);
 }
 
-QRect fit_width(const QRect& bounds, int width, const std::vector<QRect>& neighbours, int content_width) {
+QRect fit_width(const std::vector<QRect>& rects, std::size_t which, int width, int content_width) {
+    const QRect& bounds = rects[which];
     const int need = width - bounds.width();
     if (need <= 0) return bounds;
 
     int room = content_width - right_of(bounds);
-    for (const QRect& other : neighbours) {
+    for (const QRect& other : rects) {
+        if (&other == &bounds) continue;
         const bool in_the_way = share_rows(bounds, other) && other.left() >= right_of(bounds);
         if (in_the_way) room = std::min(room, other.left() - kLeastGap - right_of(bounds));
     }

@@ -6,6 +6,8 @@ namespace tavrik::front::qt {
 
 QString to_qt(std::string_view utf8) { return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); }
 
+std::string from_qt(const QString& text) { return text.toStdString(); }
+
 QString without_mnemonic(const QString& text) {
     QString plain;
     plain.reserve(text.size());

@@ -2,11 +2,13 @@
 
 #include <QString>
 
+#include <string>
 #include <string_view>
 
 namespace tavrik::front::qt {
 
 QString to_qt(std::string_view utf8);
+std::string from_qt(const QString& text);
 
 // The text as a person reads it: "&Load" is "Load", "Null && Void" is "Null & Void".
 QString without_mnemonic(const QString& text);

@@ -1,5 +1,6 @@
 #include "toolkit/fronts/qt/window.h"
 
+#include "toolkit/fronts/qt/button.h"
 #include "toolkit/fronts/qt/cursor.h"
 #include "toolkit/fronts/qt/placement.h"
 #include "toolkit/fronts/qt/text.h"
@@ -17,7 +18,8 @@
 namespace tavrik::front::qt {
 namespace {
 
-constexpr int kEndOfLiveResizeMs = 150;
+// Without a change for so long, the desktop is done.
+constexpr int kQuietMs = 150;
 constexpr int kRoundedCorner = 12;
 
 // What kind of window a frame is.
@@ -96,7 +98,7 @@ Window::Window(WindowListener& listener)
     : QWidget(nullptr, flags_of({})),
       listener_(&listener),
       menu_bar_(new QMenuBar(this)),
-      content_(new Content(this)),
+      content_(new Content(this, listener)),
       menus_(*menu_bar_, {[this] {
                               if (listener_) listener_->menus_opening();
                           },
@@ -111,6 +113,8 @@ Window::Window(WindowListener& listener)
     menu_bar_->hide();
     live_resize_.setSingleShot(true);
     connect(&live_resize_, &QTimer::timeout, this, &Window::end_live_resize);
+    coming_back_.setSingleShot(true);
+    connect(&coming_back_, &QTimer::timeout, this, &Window::come_back);
 }
 
 void Window::apply(const WindowDescription& window) {
@@ -130,7 +134,7 @@ void Window::apply(const WindowDescription& window) {
     apply_size();
     apply_position();
     apply_visibility();
-    if (comes_back) come_back();
+    if (comes_back) coming_back_.start(kQuietMs);
     // What filling the screen makes of it is for the desktop to say, and for the listener to hear.
     if (!fills_screen()) {
         known_ = content_on_screen();
@@ -166,6 +170,7 @@ void Window::set_owner(Window* owner) {
 void Window::retire() {
     listener_ = nullptr;
     live_resize_.stop();
+    coming_back_.stop();
     content_->retire();
     hide();
     deleteLater();
@@ -202,9 +207,15 @@ void Window::keyPressEvent(QKeyEvent* event) {
     if (is_return && is_bare(*event)) button = content_->default_button();
     if (event->matches(QKeySequence::Cancel)) button = content_->cancel_button();
 
-    if (!button) return QWidget::keyPressEvent(event);
-    event->accept();
-    button->click();
+    if (button) {
+        event->accept();
+        button->click();
+        return;
+    }
+    // A control that has the focus has offered the key already.
+    const bool is_ours = !focusWidget() || focusWidget() == this;
+    if (is_ours && listener_ && listener_->key_down(to_key(*event))) return event->accept();
+    QWidget::keyPressEvent(event);
 }
 
 void Window::moveEvent(QMoveEvent* event) {
@@ -220,8 +231,8 @@ void Window::resizeEvent(QResizeEvent* event) {
         setMask(outline.toFillPolygon().toPolygon());
     }
     // What comes from the desktop is a drag until it has been quiet for a moment: nothing tells its end.
-    const bool by_person = event->spontaneous() && !fills_screen() && !coming_back_;
-    if (by_person) live_resize_.start(kEndOfLiveResizeMs);
+    const bool by_person = event->spontaneous() && !fills_screen() && !coming_back_.isActive();
+    if (by_person) live_resize_.start(kQuietMs);
     report_changes(by_person ? ResizePhase::kUnderWay : ResizePhase::kDone);
 }
 
@@ -261,7 +272,7 @@ void Window::apply_looks() {
     content_->setPalette(window.background ? palette : QPalette());
     content_->setAutoFillBackground(window.background.has_value());
     content_->setToolTip(to_qt(window.help));
-    window.cursor ? content_->setCursor(to_qt(*window.cursor)) : content_->unsetCursor();
+    apply_cursor(*content_, window.cursor);
     if (window.frame != WindowFrame::kRounded) clearMask();
 }
 
@@ -333,19 +344,14 @@ WindowSize Window::size_state() const {
 
 // A desktop brings back the size that the window had when it left it, which may not be the one that it is to have now.
 void Window::come_back() {
-    coming_back_ = true;
-    const auto arrive = [this] {
-        coming_back_ = false;
-        const QScopedValueRollback applying(applying_, true);
-        apply_size();
-        if (!fills_screen()) known_ = content_on_screen();
-    };
-    QMetaObject::invokeMethod(this, arrive, Qt::QueuedConnection);
+    const QScopedValueRollback applying(applying_, true);
+    apply_size();
+    if (!fills_screen()) known_ = content_on_screen();
 }
 
 void Window::report_size_state() {
     const WindowSize now = size_state();
-    if (applying_ || coming_back_ || !listener_ || now == description_.size_state) return;
+    if (applying_ || coming_back_.isActive() || !listener_ || now == description_.size_state) return;
     description_.size_state = now;
     {
         const QScopedValueRollback applying(applying_, true);
@@ -357,7 +363,7 @@ void Window::report_size_state() {
 }
 
 void Window::report_changes(ResizePhase phase) {
-    if (applying_ || coming_back_ || !listener_) return;
+    if (applying_ || coming_back_.isActive() || !listener_) return;
     const Rect before = known_;
     const Rect now = known_ = content_on_screen();
     if (!fills_screen()) description_.content = now;

@@ -63,9 +63,9 @@ private:
     Rect known_;  // where the listener knows the content to be
     QPointer<Window> owner_;
     QTimer live_resize_;  // runs while the person drags, and a moment longer
+    QTimer coming_back_;  // runs while it comes from another state than the normal one
     bool was_shown_ = false;
     bool applying_ = false;
-    bool coming_back_ = false;  // from another state than the normal one, and not there yet
 };
 
 }  // namespace tavrik::front::qt

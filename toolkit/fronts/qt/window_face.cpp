@@ -1,7 +1,5 @@
 #include "toolkit/fronts/qt/window_face.h"
 
-#include "toolkit/fronts/qt/button_face.h"
-
 #include <QCursor>
 
 namespace tavrik::front::qt {
@@ -12,17 +10,11 @@ void QtWindowFace::apply(const WindowDescription& window) { window_->apply(windo
 
 void QtWindowFace::apply_menus(std::span<const MenuDescription> menus) { window_->apply_menus(menus); }
 
-std::unique_ptr<ButtonFace> QtWindowFace::make_button(ButtonListener& listener) {
-    return std::make_unique<QtButtonFace>(window_->content(), listener);
-}
-
 void QtWindowFace::bring_to_front() { window_->bring_to_front(); }
 
 void QtWindowFace::clear_focus() { window_->clear_focus(); }
 
-void QtWindowFace::refresh(const Rect* part) {
-    part ? window_->content().update(part->left, part->top, part->width, part->height) : window_->content().update();
-}
+void QtWindowFace::refresh(const Rect* part) { update_part(window_->content(), part); }
 
 void QtWindowFace::update_now() { window_->content().repaint(); }
 
@@ -36,5 +28,7 @@ std::uintptr_t QtWindowFace::handle() { return window_->testAttribute(Qt::WA_WSt
 void QtWindowFace::set_owner(WindowFace* owner) {
     window_->set_owner(owner ? &static_cast<QtWindowFace*>(owner)->window() : nullptr);
 }
+
+Container& QtWindowFace::container() { return window_->content().container(); }
 
 }  // namespace tavrik::front::qt

@@ -1,17 +1,16 @@
 #pragma once
 
-#include "toolkit/front/front.h"
+#include "toolkit/fronts/qt/control_faces.h"
 #include "toolkit/fronts/qt/window.h"
 
 namespace tavrik::front::qt {
 
-class QtWindowFace final : public WindowFace {
+class QtWindowFace final : public Holding<WindowFace> {
 public:
     explicit QtWindowFace(WindowListener& listener);
 
     void apply(const WindowDescription& window) override;
     void apply_menus(std::span<const MenuDescription> menus) override;
-    std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) override;
     void bring_to_front() override;
     void clear_focus() override;
     void refresh(const Rect* part) override;
@@ -21,6 +20,9 @@ public:
     void set_owner(WindowFace* owner) override;
 
     Window& window() { return *window_; }
+
+protected:
+    Container& container() override;
 
 private:
     struct Retire {

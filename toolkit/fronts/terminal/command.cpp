@@ -45,6 +45,14 @@ std::optional<std::size_t> find_control(std::string_view words, std::span<const 
     return static_cast<std::size_t>(control - controls.data());
 }
 
+std::string_view behind_menu(std::string_view words) {
+    constexpr std::string_view kMenu = "menu";
+    words = trimmed(words);
+    const std::size_t end = words.find(' ');
+    if (end == std::string_view::npos || !same_letters(words.substr(0, end), kMenu)) return {};
+    return trimmed(words.substr(end));
+}
+
 const MenuEntry* find_entry(std::string_view words, std::span<const MenuEntry> entries) {
     words = trimmed(words);
     return best_match(entries, [&](const MenuEntry& each) { return names(words, each.path()); });

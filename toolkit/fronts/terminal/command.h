@@ -15,6 +15,9 @@ namespace tavrik::front::terminal {
 // and among controls of one caption the first that can be used.
 std::optional<std::size_t> find_control(std::string_view words, std::span<const ControlView> controls);
 
+// "menu 2" asks for the contextual menu of a control: what stands behind the word; empty in any other line.
+std::string_view behind_menu(std::string_view words);
+
 // The entry by its whole path, "Menu/Entry", by the same rule where two have the same path; nullptr: none has it.
 const MenuEntry* find_entry(std::string_view words, std::span<const MenuEntry> entries);
 

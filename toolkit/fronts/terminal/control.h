@@ -6,33 +6,52 @@
 
 namespace tavrik::front::terminal {
 
-// One thing in a window that has a number, of whatever kind.
+class ControlList;
+
+// One thing in a window, of whatever kind.
 class Control {
 public:
     virtual bool visible() const = 0;
     virtual int tab_index() const = 0;
+    // Whether it has a number, or only holds others.
+    virtual bool is_listed() const = 0;
     virtual ControlView view() const = 0;
+    virtual const ControlList& inside() const = 0;
     // Does what naming the control in a line does. May destroy the control.
     virtual void use() = 0;
+    // Asks for its contextual menu. Whether there is one.
+    virtual bool open_menu() = 0;
     virtual void report_focus(bool has_focus) = 0;
 
 protected:
     ~Control() = default;
 };
 
-// The controls of one window, in the order in which they were made. Shared by the window and its controls, since
-// either may go first.
+// What lies in one thing, in the order in which it was made. Shared by that and its controls, since either may go
+// first.
 class ControlList {
 public:
     void add(Control& control);
     void remove(Control& control);
-    // The visible ones; those of one tab index in the order in which they were made.
+    // The visible ones that are listed, each before what lies in it; those of one tab index in the order in which they
+    // were made.
     std::vector<Control*> in_tab_order() const;
-    void focus(Control& control);
 
 private:
+    void collect(std::vector<Control*>& ordered) const;
+
     std::vector<Control*> controls_;
-    Control* focused_ = nullptr;
+};
+
+// Which control of a window the focus is on.
+class Focus {
+public:
+    void set(Control& control);
+    void clear();
+    void forget(const Control& control);
+
+private:
+    Control* control_ = nullptr;
 };
 
 }  // namespace tavrik::front::terminal

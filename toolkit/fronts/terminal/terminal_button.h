@@ -1,32 +1,19 @@
 #pragma once
 
-#include "toolkit/front/front.h"
-#include "toolkit/fronts/terminal/control.h"
-
-#include <memory>
+#include "toolkit/fronts/terminal/terminal_control.h"
 
 namespace tavrik::front::terminal {
 
-class TerminalButton final : public ButtonFace, public Control {
+class TerminalButton final : public TerminalControl<ButtonFace, ButtonDescription> {
 public:
-    TerminalButton(ButtonListener& listener, std::shared_ptr<ControlList> siblings);
-    TerminalButton(const TerminalButton&) = delete;
-    TerminalButton& operator=(const TerminalButton&) = delete;
-    ~TerminalButton() override;
+    TerminalButton(const Place& place, ControlListener& control, ButtonListener& button)
+        : TerminalControl(place, control), button_(button) {}
 
-    void apply(const ButtonDescription& button) override;
-    void set_focus() override;
-
-    bool visible() const override;
-    int tab_index() const override;
     ControlView view() const override;
-    void use() override;
-    void report_focus(bool has_focus) override;
+    void use() override { button_.pressed(); }
 
 private:
-    ButtonListener& listener_;
-    std::shared_ptr<ControlList> siblings_;
-    ButtonDescription button_;
+    ButtonListener& button_;
 };
 
 }  // namespace tavrik::front::terminal

@@ -82,6 +82,7 @@ private:
 
     void take(std::string line);
     void use(Control& control, const ControlView& view);
+    void open_menu(Control& control, const ControlView& view);
     void choose(const MenuEntry& entry, const TerminalWindow& window);
     void end_of_input();
 
@@ -245,6 +246,9 @@ void TerminalFront::take(std::string line) {
         if (const auto index = find_control(line, view.controls)) {
             return use(*window->controls()[*index], view.controls[*index]);
         }
+        if (const auto index = find_control(behind_menu(line), view.controls)) {
+            return open_menu(*window->controls()[*index], view.controls[*index]);
+        }
     }
 
     open_menus();
@@ -252,12 +256,17 @@ void TerminalFront::take(std::string line) {
         const std::vector<MenuEntry> entries = window->entries();
         if (const MenuEntry* entry = find_entry(line, entries)) return choose(*entry, *window);
     }
-    say("Type the number or the caption of a control, or Menu/Entry.\n");
+    say("Type the number or the caption of a control, Menu/Entry, or menu and a control.\n");
 }
 
 void TerminalFront::use(Control& control, const ControlView& view) {
     if (!view.enabled) return say(view.caption + " can't be used now.\n");
     control.use();
+}
+
+void TerminalFront::open_menu(Control& control, const ControlView& view) {
+    const std::string caption = view.caption;
+    if (!view.enabled || !control.open_menu()) say(caption + " has no menu.\n");
 }
 
 void TerminalFront::choose(const MenuEntry& entry, const TerminalWindow& window) {

@@ -2,7 +2,6 @@
 
 #include "toolkit/fronts/terminal/captions.h"
 #include "toolkit/fronts/terminal/menu_entries.h"
-#include "toolkit/fronts/terminal/terminal_button.h"
 #include "toolkit/fronts/terminal/window_stack.h"
 
 #include <utility>
@@ -25,17 +24,13 @@ void TerminalWindow::apply(const WindowDescription& window) {
 
 void TerminalWindow::apply_menus(std::span<const MenuDescription> menus) { entries_ = menu_entries(menus); }
 
-std::unique_ptr<ButtonFace> TerminalWindow::make_button(ButtonListener& listener) {
-    return std::make_unique<TerminalButton>(listener, controls_);
-}
-
 void TerminalWindow::bring_to_front() { stack_->raise(*this); }
 
 std::vector<MenuEntry> TerminalWindow::entries() const {
     return window_.menu_bar_visible ? entries_ : std::vector<MenuEntry>();
 }
 
-std::vector<Control*> TerminalWindow::controls() const { return controls_->in_tab_order(); }
+std::vector<Control*> TerminalWindow::controls() const { return place_.controls->in_tab_order(); }
 
 WindowView TerminalWindow::view(std::string_view untitled) const {
     const std::string_view title = window_.title.empty() ? untitled : window_.title;

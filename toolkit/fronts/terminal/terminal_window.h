@@ -1,7 +1,7 @@
 #pragma once
 
 #include "toolkit/front/front.h"
-#include "toolkit/fronts/terminal/control.h"
+#include "toolkit/fronts/terminal/terminal_control.h"
 #include "toolkit/fronts/terminal/window_view.h"
 
 #include <memory>
@@ -13,7 +13,7 @@ namespace tavrik::front::terminal {
 
 class WindowStack;
 
-class TerminalWindow final : public WindowFace {
+class TerminalWindow final : public Holding<WindowFace> {
 public:
     TerminalWindow(WindowListener& listener, std::shared_ptr<WindowStack> stack);
     TerminalWindow(const TerminalWindow&) = delete;
@@ -22,9 +22,8 @@ public:
 
     void apply(const WindowDescription& window) override;
     void apply_menus(std::span<const MenuDescription> menus) override;
-    std::unique_ptr<ButtonFace> make_button(ButtonListener& listener) override;
     void bring_to_front() override;
-    void clear_focus() override {}
+    void clear_focus() override { place_.focus->clear(); }
     // Each line of input meets a screen that is printed anew.
     void refresh(const Rect*) override {}
     void update_now() override {}
@@ -42,10 +41,13 @@ public:
     // `untitled` stands where the window has no title.
     WindowView view(std::string_view untitled) const;
 
+protected:
+    const Place& place() const override { return place_; }
+
 private:
     WindowListener& listener_;
     std::shared_ptr<WindowStack> stack_;
-    std::shared_ptr<ControlList> controls_ = std::make_shared<ControlList>();
+    Place place_;
     WindowDescription window_;
     std::vector<MenuEntry> entries_;
 };

@@ -83,8 +83,4 @@ TAVRIK_API bool QuitMenuAction(Object* item);
 // Raises that event too, and returns what its handler returns.
 TAVRIK_API bool PrefsMenuAction(Object* item);
 
-// What a control does on menu items of that name while it has the focus: bool handler(Object* control), true to keep
-// the item from others.
-TAVRIK_API void ControlAddMenuHandler(Object* control, const String& item, Function handler);
-
 }  // namespace tavrik

@@ -10,6 +10,10 @@ TAVRIK_API void PushButtonCreatePane(Object* button);
 TAVRIK_API void PushButtonDestructor(Object* button);
 // As if the person had pressed it: does nothing while it isn't enabled.
 TAVRIK_API void pushButtonPush(Object* button);
+// Receivers are held, and hear of each press, in the order in which they came, before "Action" is raised: the first
+// operation of the interface actionNotificationReceiver gets the button.
+TAVRIK_API void pbAddActionNotificationReceiver(Object* button, Object* receiver);
+TAVRIK_API void pbRemoveActionNotificationReceiver(Object* button, Object* receiver);
 
 TAVRIK_API String pushButtonTitleGetter(Object* button, std::int32_t);
 TAVRIK_API void pushButtonTitleSetter(Object* button, std::int32_t, const String& caption);

@@ -1,0 +1,67 @@
+#include "toolkit/core/control.h"
+#include "toolkit/core/pane.h"
+#include "toolkit/core/reflection.h"
+
+#include <tavrik/canvas.h>
+#include <tavrik/control.h>
+#include <tavrik/fields.h>
+
+namespace tavrik {
+namespace core {
+namespace {
+
+constinit Property<bool> accepts_focus{"Canvas", "AcceptFocus"};
+constinit Property<bool> accepts_tabs{"Canvas", "AcceptTabs"};
+constinit Property<bool> uses_focus_ring{"Canvas", "UseFocusRing"};
+constinit Property<bool> erases_background{"Canvas", "EraseBackground"};
+
+class CanvasState : public ControlState {
+public:
+    using ControlState::ControlState;
+
+protected:
+    std::unique_ptr<front::ControlFace> make_face(front::ContainerFace& container,
+                                                  front::ControlListener& listener) override {
+        return container.make_canvas(listener);
+    }
+    void apply_to(front::ControlFace& face) override {
+        front::CanvasDescription canvas;
+        describe(canvas);
+        canvas.accepts_focus = accepts_focus.get(self());
+        canvas.accepts_tabs = accepts_tabs.get(self());
+        canvas.focus_ring = uses_focus_ring.get(self());
+        canvas.erases_background = erases_background.get(self());
+        static_cast<front::CanvasFace&>(face).apply(canvas);
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<ControlState> make_canvas_state(Object* canvas) { return std::make_unique<CanvasState>(canvas); }
+
+}  // namespace core
+
+void RuntimeCanvasInitializer(Object* canvas) {
+    core::uses_focus_ring.set(canvas, true);
+    core::erases_background.set(canvas, true);
+}
+void RuntimeCanvasDestructor(Object* canvas) { core::control_state(canvas).detach(); }
+void CanvasCreatePane(Object* canvas) { core::create_pane(canvas); }
+
+// What is shown comes from the Paint event, which is asked for the whole part again.
+void canvasScroll(Object* canvas, std::int32_t delta_x, std::int32_t delta_y, std::int32_t left, std::int32_t top,
+                  std::int32_t width, std::int32_t height, bool controls) {
+    core::ControlState& state = core::control_state(canvas);
+    const front::Rect part{left, top, width, height};
+    if (controls) state.scroll_children(part, delta_x, delta_y);
+    state.refresh(&part);
+}
+
+Ref<Object> canvasGraphicsGetter(Object*, std::int32_t) { return nullptr; }
+
+void canvasBackdropSetter(Object* canvas, std::int32_t field, Object* picture) {
+    objSetter(canvas, field, picture);
+    core::control_state(canvas).refresh(nullptr);
+}
+
+}  // namespace tavrik

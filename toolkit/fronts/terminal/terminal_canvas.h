@@ -1,0 +1,16 @@
+#pragma once
+
+#include "toolkit/fronts/terminal/terminal_control.h"
+
+namespace tavrik::front::terminal {
+
+// Has its name for a picture; using it presses the mouse in its middle.
+class TerminalCanvas final : public TerminalControl<CanvasFace, CanvasDescription> {
+public:
+    using TerminalControl::TerminalControl;
+
+    ControlView view() const override;
+    void use() override;
+};
+
+}  // namespace tavrik::front::terminal
