@@ -40,11 +40,13 @@
 #include "ui/menu_bar.h"
 #include "ui/message_dialog.h"
 #include "ui/mouse_cursor.h"
+#include "ui/page_panel.h"
 #include "ui/pane.h"
 #include "ui/prefs_menu_item.h"
 #include "ui/push_button.h"
 #include "ui/quit_menu_item.h"
 #include "ui/rect_control.h"
+#include "ui/tab_panel.h"
 #include "ui/window.h"
 #include "ui/window_support.h"
 
@@ -88,6 +90,7 @@ void initialize() {
                   RectControl, Control,
 
                   _MouseCursorImp, MouseCursor, _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton, Canvas,
+                  PagePanel, TabPanel,
 
                   _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString,
                   _VariantCString, _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean,

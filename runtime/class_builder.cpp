@@ -209,6 +209,7 @@ private:
             }
             const std::int32_t writable = row.setter.function == nullptr ? 0 : kWritable;
             PropertyRecord& property = add_property(row.name, row.type_code, kPublic | writable);
+            if (row.offset != nullptr) property.parameter = row.offset();
             if (row.getter.function != nullptr) {
                 property.getter = row.getter.function();
                 property.read_invoker = row.getter.property_invoker();

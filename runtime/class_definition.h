@@ -66,7 +66,8 @@ struct PropertyRow {
     AccessorRow setter{};
     bool is_counted = false;  // a stored value that is released with the object
     Lifecycle release = nullptr;
-    const FieldRow* field = nullptr;  // what this row is instead: a field that stands among the properties
+    std::int32_t (*offset)() = nullptr;  // where a value without a getter lies
+    const FieldRow* field = nullptr;     // what this row is instead: a field that stands among the properties
 };
 
 struct EventRow {

@@ -461,6 +461,15 @@ constexpr PropertyRow stored(const char* name) {
             .release = &Entry::release};
 }
 
+// The same for a value that can't be read. The record tells the toolkit where it lies.
+template <auto Member>
+constexpr PropertyRow stored_write_only(const char* name) {
+    PropertyRow row = stored<Member>(name);
+    row.getter = {};
+    row.offset = &detail::FieldEntry<Member>::offset;
+    return row;
+}
+
 // A field with a record of its own that stands among the properties. The row is a constant of the source file.
 constexpr PropertyRow among_properties(const FieldRow& row) {
     return {.name = row.name,

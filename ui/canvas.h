@@ -28,7 +28,6 @@ struct Canvas : Class<Canvas, RectControl> {
     Ref<tavrik::Graphics> Graphics() { return static_ref<tavrik::Graphics>(canvasGraphicsGetter(this, 0)); }
     Ref<Picture> Backdrop() { return mBackdrop; }
     void set_Backdrop(Arg<Picture> picture);
-    // Count from the canvas's next appearance on the screen.
     bool AcceptFocus() { return mAcceptFocus; }
     void set_AcceptFocus(bool accepts) { mAcceptFocus = accepts; }
     bool AcceptTabs() { return mAcceptTabs; }

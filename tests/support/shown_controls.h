@@ -53,6 +53,7 @@ public:
                                                    front::ButtonListener& button) override;
     std::unique_ptr<front::CanvasFace> make_canvas(front::ControlListener& control) override;
     std::unique_ptr<front::PanelFace> make_panel(front::ControlListener& control) override;
+    std::unique_ptr<front::TabsFace> make_tabs(front::ControlListener& control, front::TabsListener& tabs) override;
 
 protected:
     virtual ShownControls& shown_inside() = 0;
@@ -87,6 +88,16 @@ struct ShownButton final : ShownAs<front::ButtonFace, front::ButtonDescription> 
 using ShownCanvas = ShownAs<front::CanvasFace, front::CanvasDescription>;
 using ShownPanel = ShownAs<front::PanelFace, front::ControlDescription>;
 
+struct ShownTabs final : ShownAs<front::TabsFace, front::TabsDescription> {
+    ShownTabs(ShownControls& outer_controls, front::ControlListener& told, front::TabsListener& told_of_choices)
+        : ShownAs(outer_controls, told), choices(told_of_choices) {}
+
+    // Each is ten wide.
+    int tab_at(front::Point at) override { return at.left / 10; }
+
+    front::TabsListener& choices;
+};
+
 template <class Face>
 std::unique_ptr<front::ButtonFace> ShownContainer<Face>::make_button(front::ControlListener& control,
                                                                      front::ButtonListener& button) {
@@ -99,6 +110,11 @@ std::unique_ptr<front::CanvasFace> ShownContainer<Face>::make_canvas(front::Cont
 template <class Face>
 std::unique_ptr<front::PanelFace> ShownContainer<Face>::make_panel(front::ControlListener& control) {
     return std::make_unique<ShownPanel>(shown_inside(), control);
+}
+template <class Face>
+std::unique_ptr<front::TabsFace> ShownContainer<Face>::make_tabs(front::ControlListener& control,
+                                                                 front::TabsListener& tabs) {
+    return std::make_unique<ShownTabs>(shown_inside(), control, tabs);
 }
 
 struct ShownWindow : ShownContainer<front::WindowFace> {

@@ -6,6 +6,8 @@
 #include <tavrik/control.h>
 #include <tavrik/fields.h>
 
+#include <tuple>
+
 namespace tavrik {
 namespace core {
 namespace {
@@ -27,12 +29,24 @@ protected:
     void apply_to(front::ControlFace& face) override {
         front::CanvasDescription canvas;
         describe(canvas);
-        canvas.accepts_focus = accepts_focus.get(self());
-        canvas.accepts_tabs = accepts_tabs.get(self());
-        canvas.focus_ring = uses_focus_ring.get(self());
-        canvas.erases_background = erases_background.get(self());
+        told_ = stored_looks();
+        std::tie(canvas.accepts_focus, canvas.accepts_tabs, canvas.focus_ring, canvas.erases_background) = told_;
         static_cast<front::CanvasFace&>(face).apply(canvas);
     }
+    bool has_stored_looks() const override { return true; }
+    void look_at_stored_properties() override {
+        if (stored_looks() != told_) changed();
+    }
+
+private:
+    using Looks = std::tuple<bool, bool, bool, bool>;
+
+    Looks stored_looks() const {
+        return {accepts_focus.get(self()), accepts_tabs.get(self()), uses_focus_ring.get(self()),
+                erases_background.get(self())};
+    }
+
+    Looks told_;
 };
 
 }  // namespace

@@ -60,6 +60,8 @@ public:
     void children_changed();
     // Moves what lies in a part, told from the control's own corner.
     void scroll_children(const front::Rect& part, std::int32_t delta_x, std::int32_t delta_y);
+    // Looks whether the program has written a stored property that the face shows. Only asked while there is a face.
+    virtual void look_at_stored_properties() {}
     void set_focus();
     void refresh(const front::Rect* part);
     std::uintptr_t handle() const;
@@ -83,6 +85,8 @@ protected:
                                                           front::ControlListener& listener);
     // Gives the description to a face that make_face() has made.
     virtual void apply_to(front::ControlFace& face);
+    // Whether some of its looks are stored properties, which are written without telling anyone.
+    virtual bool has_stored_looks() const { return false; }
     // The part of a description that all kinds have.
     void describe(front::ControlDescription& description) const;
 
@@ -110,8 +114,13 @@ private:
 
 ControlState& control_state(Object* control, const char* call = __builtin_FUNCTION());
 
+// Has the controls with stored looks that are on a screen look at them: the last thing of each event.
+void look_at_controls();
+
 // The state for a control of the named class or of a subclass of it.
 std::unique_ptr<ControlState> make_push_button_state(Object* button);
 std::unique_ptr<ControlState> make_canvas_state(Object* canvas);
+std::unique_ptr<ControlState> make_page_panel_state(Object* panel);
+std::unique_ptr<ControlState> make_tab_panel_state(Object* panel);
 
 }  // namespace tavrik::core

@@ -42,7 +42,14 @@ struct StateMaker {
     std::unique_ptr<ControlState> (*make)(Object* control);
 };
 constexpr std::array kStateMakers{StateMaker{"PushButton", make_push_button_state},
-                                  StateMaker{"Canvas", make_canvas_state}};
+                                  StateMaker{"Canvas", make_canvas_state}, StateMaker{"TabPanel", make_tab_panel_state},
+                                  StateMaker{"PagePanel", make_page_panel_state}};
+
+// The controls with stored looks that have a face.
+std::vector<ControlState*>& looked_at() {
+    static auto* const controls = new std::vector<ControlState*>;  // outlives the last control
+    return *controls;
+}
 
 std::unique_ptr<ControlState> make_state(Object* control) {
     for (const ClassRecord* record = control->record; record != nullptr; record = record->parent) {
@@ -68,7 +75,17 @@ ControlState& control_state(Object* control, const char* call) {
     return *native<ControlState>(control);
 }
 
+void look_at_controls() {
+    std::vector<Ref<Object>> controls;  // looking may end some of them
+    for (const ControlState* const control : looked_at()) controls.emplace_back(control->self());
+    for (const Ref<Object>& control : controls) {
+        if (ControlState& state = control_state(control.object()); state.face() != nullptr)
+            state.look_at_stored_properties();
+    }
+}
+
 ControlState::~ControlState() {
+    std::erase(looked_at(), this);
     for (ControlState* const child : children_) child->parent_ = nullptr;
     if (parent_ != nullptr) std::erase(parent_->children_, this);
 }
@@ -153,12 +170,14 @@ bool ControlState::enabled_throughout() const {
 void ControlState::attach(front::ContainerFace& container) {
     face_ = make_face(container, *this);
     if (!face_) return;
+    if (has_stored_looks()) looked_at().push_back(this);
     apply_to(*face_);
     for (ControlState* const child : children_) child->attach(*face_);
 }
 
 void ControlState::detach() {
     for (ControlState* const child : children_) child->detach();
+    std::erase(looked_at(), this);
     if (face_) on_main_stack([this] { face_.reset(); });
 }
 

@@ -1,5 +1,6 @@
 #include "toolkit/core/event_scope.h"
 
+#include "toolkit/core/control.h"
 #include "toolkit/core/main_thread.h"
 #include "toolkit/core/menu_item.h"
 #include "toolkit/core/program.h"
@@ -102,6 +103,7 @@ void deliver(const std::function<void()>& event, const char* call) noexcept {
     const EventScope scope;
     if (scheduler().current() == nullptr) ++EventScope::total;
     guarded(event);
+    guarded(look_at_controls);
     guarded(update_dirty_windows);
     guarded(raise_what_releases_left);
     guarded(flush_all_streams);

@@ -149,6 +149,16 @@ struct CanvasDescription : ControlDescription {
     std::optional<std::uint32_t> background;  // 0xRRGGBB
 };
 
+enum class TabSide { kTop, kBottom, kRight, kLeft };
+
+struct TabsDescription : ControlDescription {
+    std::vector<std::string> captions;  // each may hold "&" before a mnemonic letter; "&&" is a plain one
+    int chosen = 0;                     // counts while there are tabs
+    TabSide side = TabSide::kTop;
+    bool small = false;
+    TextStyle style;
+};
+
 using MenuId = std::uint64_t;
 
 enum class MenuRole { kPlain, kQuit, kPreferences, kAbout };

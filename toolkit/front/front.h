@@ -51,9 +51,19 @@ protected:
     ~ButtonListener() = default;
 };
 
+class TabsListener {
+public:
+    // The person chose another tab; the face shows it by now.
+    virtual void tab_chosen(int tab) = 0;
+
+protected:
+    ~TabsListener() = default;
+};
+
 class ButtonFace;
 class CanvasFace;
 class PanelFace;
+class TabsFace;
 
 // What controls lie in: a window, or another control. A face ends before what it lies in does.
 class ContainerFace {
@@ -62,6 +72,7 @@ public:
     virtual std::unique_ptr<ButtonFace> make_button(ControlListener& control, ButtonListener& button) = 0;
     virtual std::unique_ptr<CanvasFace> make_canvas(ControlListener& control) = 0;
     virtual std::unique_ptr<PanelFace> make_panel(ControlListener& control) = 0;
+    virtual std::unique_ptr<TabsFace> make_tabs(ControlListener& control, TabsListener& tabs) = 0;
 };
 
 class ControlFace : public ContainerFace {
@@ -87,6 +98,14 @@ public:
 class PanelFace : public ControlFace {
 public:
     virtual void apply(const ControlDescription& panel) = 0;
+};
+
+// Tabs at one side of an area. What lies in the area stands where the control tells it, from the corner of the whole.
+class TabsFace : public ControlFace {
+public:
+    virtual void apply(const TabsDescription& tabs) = 0;
+    // The tab at a place of the control; -1: none.
+    virtual int tab_at(Point at) = 0;
 };
 
 // kUnderWay while the person drags, kDone at the end of that and for any other change.

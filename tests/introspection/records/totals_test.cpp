@@ -24,6 +24,8 @@ constexpr Totals kTotals[] = {
     {"RectControl", 58, 25, 19, 11},
     {"PushButton", 28, 35, 8, 5},
     {"Canvas", 23, 33, 6, 7},
+    {"PagePanel", 12, 30, 3, 1},
+    {"TabPanel", 32, 40, 10, 5},
     {"_Pane", 66, 42, 34},
     {"FolderItem", 87, 43, 32},
     {"Permissions", 26, 1, 12},

@@ -13,6 +13,7 @@ namespace tavrik::front::qt {
 std::unique_ptr<ButtonFace> make_button_in(Container& container, ControlListener& control, ButtonListener& button);
 std::unique_ptr<CanvasFace> make_canvas_in(Container& container, ControlListener& control);
 std::unique_ptr<PanelFace> make_panel_in(Container& container, ControlListener& control);
+std::unique_ptr<TabsFace> make_tabs_in(Container& container, ControlListener& control, TabsListener& tabs);
 
 // The part of a face that lets controls lie in what it shows.
 template <class Face>
@@ -27,6 +28,9 @@ public:
     std::unique_ptr<PanelFace> make_panel(ControlListener& control) override {
         return make_panel_in(container(), control);
     }
+    std::unique_ptr<TabsFace> make_tabs(ControlListener& control, TabsListener& tabs) override {
+        return make_tabs_in(container(), control, tabs);
+    }
 
 protected:
     virtual Container& container() = 0;
@@ -36,7 +40,7 @@ protected:
 void update_part(QWidget& widget, const Rect* part);
 
 template <class Face, class Widget, class Description>
-class ControlFaceOf final : public Holding<Face> {
+class ControlFaceOf : public Holding<Face> {
 public:
     explicit ControlFaceOf(Widget* widget) : widget_(widget) {}
     ControlFaceOf(const ControlFaceOf&) = delete;
@@ -60,6 +64,8 @@ public:
 
 protected:
     Container& container() override { return widget_->container(); }
+    // nullptr once its window has ended.
+    Widget* widget() const { return widget_; }
 
 private:
     QPointer<Widget> widget_;  // goes with the window, which may end before its controls

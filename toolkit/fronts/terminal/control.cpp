@@ -20,7 +20,7 @@ void ControlList::collect(std::vector<Control*>& ordered) const {
     std::ranges::stable_sort(here, {}, &Control::tab_index);
     for (Control* const control : here) {
         if (!control->visible()) continue;
-        if (control->is_listed()) ordered.push_back(control);
+        ordered.push_back(control);
         control->inside().collect(ordered);
     }
 }

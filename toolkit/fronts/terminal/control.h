@@ -2,6 +2,7 @@
 
 #include "toolkit/fronts/terminal/window_view.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace tavrik::front::terminal {
@@ -13,12 +14,11 @@ class Control {
 public:
     virtual bool visible() const = 0;
     virtual int tab_index() const = 0;
-    // Whether it has a number, or only holds others.
-    virtual bool is_listed() const = 0;
-    virtual ControlView view() const = 0;
+    // The lines that it has in its window, each with a number; none for what only holds others.
+    virtual std::vector<ControlView> views() const = 0;
     virtual const ControlList& inside() const = 0;
-    // Does what naming the control in a line does. May destroy the control.
-    virtual void use() = 0;
+    // Does what naming that line of it does. May destroy the control.
+    virtual void use(std::size_t part) = 0;
     // Asks for its contextual menu. Whether there is one.
     virtual bool open_menu() = 0;
     virtual void report_focus(bool has_focus) = 0;
@@ -33,7 +33,7 @@ class ControlList {
 public:
     void add(Control& control);
     void remove(Control& control);
-    // The visible ones that are listed, each before what lies in it; those of one tab index in the order in which they
+    // The visible ones, each before what lies in it; those of one tab index in the order in which they
     // were made.
     std::vector<Control*> in_tab_order() const;
 

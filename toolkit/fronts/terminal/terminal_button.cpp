@@ -4,8 +4,8 @@
 
 namespace tavrik::front::terminal {
 
-ControlView TerminalButton::view() const {
-    return {.caption = printed_caption(shown().caption), .value = {}, .enabled = shown().enabled};
+std::vector<ControlView> TerminalButton::views() const {
+    return {{.caption = printed_caption(shown().caption), .value = {}, .enabled = shown().enabled}};
 }
 
 }  // namespace tavrik::front::terminal

@@ -9,8 +9,8 @@ public:
     TerminalButton(const Place& place, ControlListener& control, ButtonListener& button)
         : TerminalControl(place, control), button_(button) {}
 
-    ControlView view() const override;
-    void use() override { button_.pressed(); }
+    std::vector<ControlView> views() const override;
+    void use(std::size_t) override { button_.pressed(); }
 
 private:
     ButtonListener& button_;

@@ -4,11 +4,11 @@
 
 namespace tavrik::front::terminal {
 
-ControlView TerminalCanvas::view() const {
-    return {.caption = printable(shown().name), .value = {}, .enabled = shown().enabled};
+std::vector<ControlView> TerminalCanvas::views() const {
+    return {{.caption = printable(shown().name), .value = {}, .enabled = shown().enabled}};
 }
 
-void TerminalCanvas::use() {
+void TerminalCanvas::use(std::size_t) {
     const Point at = middle();
     ControlListener& told = listener();  // outlives the face, which the press may destroy
     if (told.mouse_down(at, MouseButton::kPrimary)) told.mouse_up(at);

@@ -9,8 +9,8 @@ class TerminalCanvas final : public TerminalControl<CanvasFace, CanvasDescriptio
 public:
     using TerminalControl::TerminalControl;
 
-    ControlView view() const override;
-    void use() override;
+    std::vector<ControlView> views() const override;
+    void use(std::size_t) override;
 };
 
 }  // namespace tavrik::front::terminal

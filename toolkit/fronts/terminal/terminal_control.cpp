@@ -3,6 +3,7 @@
 #include "toolkit/fronts/terminal/terminal_button.h"
 #include "toolkit/fronts/terminal/terminal_canvas.h"
 #include "toolkit/fronts/terminal/terminal_panel.h"
+#include "toolkit/fronts/terminal/terminal_tabs.h"
 
 namespace tavrik::front::terminal {
 
@@ -16,6 +17,10 @@ std::unique_ptr<CanvasFace> make_canvas_at(const Place& place, ControlListener& 
 
 std::unique_ptr<PanelFace> make_panel_at(const Place& place, ControlListener& control) {
     return std::make_unique<TerminalPanel>(place, control);
+}
+
+std::unique_ptr<TabsFace> make_tabs_at(const Place& place, ControlListener& control, TabsListener& tabs) {
+    return std::make_unique<TerminalTabs>(place, control, tabs);
 }
 
 }  // namespace tavrik::front::terminal

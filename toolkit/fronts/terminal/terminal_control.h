@@ -20,6 +20,7 @@ struct Place {
 std::unique_ptr<ButtonFace> make_button_at(const Place& place, ControlListener& control, ButtonListener& button);
 std::unique_ptr<CanvasFace> make_canvas_at(const Place& place, ControlListener& control);
 std::unique_ptr<PanelFace> make_panel_at(const Place& place, ControlListener& control);
+std::unique_ptr<TabsFace> make_tabs_at(const Place& place, ControlListener& control, TabsListener& tabs);
 
 // The part of a face that lets controls lie in what it shows.
 template <class Face>
@@ -32,6 +33,9 @@ public:
         return make_canvas_at(place(), control);
     }
     std::unique_ptr<PanelFace> make_panel(ControlListener& control) override { return make_panel_at(place(), control); }
+    std::unique_ptr<TabsFace> make_tabs(ControlListener& control, TabsListener& tabs) override {
+        return make_tabs_at(place(), control, tabs);
+    }
 
 protected:
     virtual const Place& place() const = 0;
@@ -63,7 +67,6 @@ public:
 
     bool visible() const override { return shown_.visible; }
     int tab_index() const override { return shown_.tab_index; }
-    bool is_listed() const override { return true; }
     const ControlList& inside() const override { return *inner_.controls; }
     bool open_menu() override { return listener_.menu_requested(middle()); }
     void report_focus(bool has_focus) override { listener_.focus_changed(has_focus); }

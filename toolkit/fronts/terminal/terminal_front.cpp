@@ -81,7 +81,7 @@ private:
     void say(std::string_view text);
 
     void take(std::string line);
-    void use(Control& control, const ControlView& view);
+    void use(const TerminalWindow::Line& line, const ControlView& view);
     void open_menu(Control& control, const ControlView& view);
     void choose(const MenuEntry& entry, const TerminalWindow& window);
     void end_of_input();
@@ -244,10 +244,10 @@ void TerminalFront::take(std::string line) {
     if (const TerminalWindow* window = windows_->frontmost()) {
         const WindowView view = window->view(program_name_);
         if (const auto index = find_control(line, view.controls)) {
-            return use(*window->controls()[*index], view.controls[*index]);
+            return use(window->control_lines()[*index], view.controls[*index]);
         }
         if (const auto index = find_control(behind_menu(line), view.controls)) {
-            return open_menu(*window->controls()[*index], view.controls[*index]);
+            return open_menu(*window->control_lines()[*index].control, view.controls[*index]);
         }
     }
 
@@ -259,9 +259,9 @@ void TerminalFront::take(std::string line) {
     say("Type the number or the caption of a control, Menu/Entry, or menu and a control.\n");
 }
 
-void TerminalFront::use(Control& control, const ControlView& view) {
+void TerminalFront::use(const TerminalWindow::Line& line, const ControlView& view) {
     if (!view.enabled) return say(view.caption + " can't be used now.\n");
-    control.use();
+    line.control->use(line.part);
 }
 
 void TerminalFront::open_menu(Control& control, const ControlView& view) {

@@ -9,9 +9,8 @@ class TerminalPanel final : public TerminalControl<PanelFace, ControlDescription
 public:
     using TerminalControl::TerminalControl;
 
-    bool is_listed() const override { return false; }
-    ControlView view() const override { return {}; }
-    void use() override {}
+    std::vector<ControlView> views() const override { return {}; }
+    void use(std::size_t) override {}
 };
 
 }  // namespace tavrik::front::terminal

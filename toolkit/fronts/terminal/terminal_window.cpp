@@ -30,12 +30,20 @@ std::vector<MenuEntry> TerminalWindow::entries() const {
     return window_.menu_bar_visible ? entries_ : std::vector<MenuEntry>();
 }
 
-std::vector<Control*> TerminalWindow::controls() const { return place_.controls->in_tab_order(); }
+std::vector<TerminalWindow::Line> TerminalWindow::control_lines() const {
+    std::vector<Line> lines;
+    for (Control* const control : place_.controls->in_tab_order()) {
+        for (std::size_t part = 0; part < control->views().size(); ++part) lines.push_back({control, part});
+    }
+    return lines;
+}
 
 WindowView TerminalWindow::view(std::string_view untitled) const {
     const std::string_view title = window_.title.empty() ? untitled : window_.title;
     WindowView view{.title = printable(title), .entries = entries(), .controls = {}};
-    for (const Control* control : controls()) view.controls.push_back(control->view());
+    for (const Control* const control : place_.controls->in_tab_order()) {
+        for (ControlView& line : control->views()) view.controls.push_back(std::move(line));
+    }
     return view;
 }
 

@@ -4,6 +4,7 @@
 #include "toolkit/fronts/terminal/terminal_control.h"
 #include "toolkit/fronts/terminal/window_view.h"
 
+#include <cstddef>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -37,7 +38,12 @@ public:
     bool modal() const { return window_.modality != Modality::kNone; }
     // The entries that can be seen: none while the menu bar is hidden.
     std::vector<MenuEntry> entries() const;
-    std::vector<Control*> controls() const;
+    // What stands behind the numbers.
+    struct Line {
+        Control* control;
+        std::size_t part;  // of the control's own lines
+    };
+    std::vector<Line> control_lines() const;
     // `untitled` stands where the window has no title.
     WindowView view(std::string_view untitled) const;
 
