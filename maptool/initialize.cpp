@@ -34,7 +34,9 @@
 #include "runtime/tavrik_module.h"
 #include "ui/apple_menu_item.h"
 #include "ui/canvas.h"
+#include "ui/container_control.h"
 #include "ui/control.h"
+#include "ui/embedded_window_control.h"
 #include "ui/input_interfaces.h"
 #include "ui/mdi_window.h"
 #include "ui/menu_bar.h"
@@ -87,10 +89,9 @@ void initialize() {
 
                   Thread, FolderItem, Permissions, VirtualVolume, Writeable, TextOutputStream, TextInputStream,
                   Readable, BinaryStream, MDIWindow, TextEncoding, _Pollable, Application, OpenDialog, FolderItemDialog,
-                  RectControl, Control,
+                  EmbeddedWindowControl, RectControl, ContainerControl, Control, _MouseCursorImp, MouseCursor,
 
-                  _MouseCursorImp, MouseCursor, _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton, Canvas,
-                  PagePanel, TabPanel,
+                  _MouseEvents, _FocusEvents, _PaneChild, _Pane, PushButton, Canvas, PagePanel, TabPanel,
 
                   _VariantOSType, _VariantWindowPtr, _VariantCFStringRef, _VariantPString, _VariantWString,
                   _VariantCString, _VariantPtr, _VariantStructure, _VariantCurrency, _VariantColor, _VariantBoolean,

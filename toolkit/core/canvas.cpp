@@ -1,12 +1,11 @@
-#include "toolkit/core/control.h"
+#include "toolkit/core/canvas.h"
+
 #include "toolkit/core/pane.h"
 #include "toolkit/core/reflection.h"
 
 #include <tavrik/canvas.h>
 #include <tavrik/control.h>
 #include <tavrik/fields.h>
-
-#include <tuple>
 
 namespace tavrik {
 namespace core {
@@ -17,39 +16,37 @@ constinit Property<bool> accepts_tabs{"Canvas", "AcceptTabs"};
 constinit Property<bool> uses_focus_ring{"Canvas", "UseFocusRing"};
 constinit Property<bool> erases_background{"Canvas", "EraseBackground"};
 
-class CanvasState : public ControlState {
-public:
-    using ControlState::ControlState;
-
-protected:
-    std::unique_ptr<front::ControlFace> make_face(front::ContainerFace& container,
-                                                  front::ControlListener& listener) override {
-        return container.make_canvas(listener);
-    }
-    void apply_to(front::ControlFace& face) override {
-        front::CanvasDescription canvas;
-        describe(canvas);
-        told_ = stored_looks();
-        std::tie(canvas.accepts_focus, canvas.accepts_tabs, canvas.focus_ring, canvas.erases_background) = told_;
-        static_cast<front::CanvasFace&>(face).apply(canvas);
-    }
-    bool has_stored_looks() const override { return true; }
-    void look_at_stored_properties() override {
-        if (stored_looks() != told_) changed();
-    }
-
-private:
-    using Looks = std::tuple<bool, bool, bool, bool>;
-
-    Looks stored_looks() const {
-        return {accepts_focus.get(self()), accepts_tabs.get(self()), uses_focus_ring.get(self()),
-                erases_background.get(self())};
-    }
-
-    Looks told_;
-};
-
 }  // namespace
+
+std::unique_ptr<front::ControlFace> CanvasState::make_face(front::ContainerFace& container,
+                                                           front::ControlListener& listener) {
+    return container.make_canvas(listener);
+}
+
+void CanvasState::apply_to(front::ControlFace& face) {
+    front::CanvasDescription canvas;
+    describe_canvas(canvas);
+    told_ = stored_looks();
+    static_cast<front::CanvasFace&>(face).apply(canvas);
+}
+
+void CanvasState::describe_canvas(front::CanvasDescription& canvas) const {
+    describe(canvas);
+    const Looks looks = stored_looks();
+    canvas.accepts_focus = looks.accepts_focus;
+    canvas.accepts_tabs = looks.accepts_tabs;
+    canvas.focus_ring = looks.focus_ring;
+    canvas.erases_background = looks.erases_background;
+}
+
+CanvasState::Looks CanvasState::stored_looks() const {
+    return {accepts_focus.get(self()), accepts_tabs.get(self()), uses_focus_ring.get(self()),
+            erases_background.get(self())};
+}
+
+void CanvasState::look_at_stored_properties() {
+    if (stored_looks() != told_) changed();
+}
 
 std::unique_ptr<ControlState> make_canvas_state(Object* canvas) { return std::make_unique<CanvasState>(canvas); }
 

@@ -23,7 +23,7 @@ public:
     Object* window() const { return window_; }
     void enter(Object* window) { window_ = window; }
     // Out of the window, and away from the controls around it.
-    void leave();
+    virtual void leave();
 
     // Where it stands, from the corner of the window's content.
     const front::Rect& bounds() const { return bounds_; }
@@ -68,6 +68,10 @@ public:
 
     // In its Close event.
     bool is_closing = false;
+    // While it has the focus: turns on the menu items that it answers, and answers one.
+    virtual void enable_menu_items(Object*) {}
+    virtual bool handle_menu_command(Object*) { return false; }
+
     bool visible = true;
     bool enabled = true;
     bool auto_deactivate = true;
@@ -89,6 +93,10 @@ protected:
     virtual bool has_stored_looks() const { return false; }
     // The part of a description that all kinds have.
     void describe(front::ControlDescription& description) const;
+    // What lies in it without being a child.
+    virtual void attach_contents() {}
+    virtual void detach_contents() {}
+    virtual void state_changed() {}
 
 private:
     bool mouse_down(front::Point at, front::MouseButton button) override;
@@ -122,5 +130,6 @@ std::unique_ptr<ControlState> make_push_button_state(Object* button);
 std::unique_ptr<ControlState> make_canvas_state(Object* canvas);
 std::unique_ptr<ControlState> make_page_panel_state(Object* panel);
 std::unique_ptr<ControlState> make_tab_panel_state(Object* panel);
+std::unique_ptr<ControlState> make_host_state(Object* host);
 
 }  // namespace tavrik::core

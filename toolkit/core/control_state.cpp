@@ -1,5 +1,6 @@
 #include "toolkit/core/contextual_menu.h"
 #include "toolkit/core/control.h"
+#include "toolkit/core/embedded_window_control.h"
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/main_thread.h"
 #include "toolkit/core/mouse_cursor.h"
@@ -43,7 +44,8 @@ struct StateMaker {
 };
 constexpr std::array kStateMakers{StateMaker{"PushButton", make_push_button_state},
                                   StateMaker{"Canvas", make_canvas_state}, StateMaker{"TabPanel", make_tab_panel_state},
-                                  StateMaker{"PagePanel", make_page_panel_state}};
+                                  StateMaker{"PagePanel", make_page_panel_state},
+                                  StateMaker{"EmbeddedWindowControl", make_host_state}};
 
 // The controls with stored looks that have a face.
 std::vector<ControlState*>& looked_at() {
@@ -98,16 +100,24 @@ void ControlState::leave() {
 }
 
 void ControlState::set_bounds(const front::Rect& bounds) {
+    const Ref<Object> kept(self_);
     const front::Rect change = change_between(bounds_, bounds);
+    // What lies in a container hears of its new size, and may close anything.
+    std::vector<Ref<Object>> followers;
+    for (const ControlState* const child : children_) followers.emplace_back(child->self_);
     bounds_ = bounds;
     changed();
     if (change == front::Rect()) return;
-    for (ControlState* const child : children_) child->follow_parent(change);
+    for (const Ref<Object>& follower : followers) {
+        ControlState& child = control_state(follower.object());
+        if (child.parent_ == this) child.follow_parent(change);
+    }
 }
 
 void ControlState::follow_pane() {
     const Ref<Object> pane = pane_of(self_);
     if (!pane) return;
+    const Ref<Object> kept(self_);
     bounds_ = bounds_of_pane(pane.object());
     tell_face();
 }
@@ -164,7 +174,9 @@ void ControlState::set_panel_index(std::int32_t index) {
 bool ControlState::shows(const ControlState&) const { return true; }
 
 bool ControlState::enabled_throughout() const {
-    return enabled && (parent_ == nullptr || parent_->enabled_throughout());
+    const ControlState* around = parent_;
+    if (around == nullptr && window_ != nullptr) around = window_state(window_).host();
+    return enabled && (around == nullptr || around->enabled_throughout());
 }
 
 void ControlState::attach(front::ContainerFace& container) {
@@ -173,9 +185,11 @@ void ControlState::attach(front::ContainerFace& container) {
     if (has_stored_looks()) looked_at().push_back(this);
     apply_to(*face_);
     for (ControlState* const child : children_) child->attach(*face_);
+    attach_contents();
 }
 
 void ControlState::detach() {
+    detach_contents();
     for (ControlState* const child : children_) child->detach();
     std::erase(looked_at(), this);
     if (face_) on_main_stack([this] { face_.reset(); });
@@ -205,6 +219,7 @@ void ControlState::scroll_children(const front::Rect& part, std::int32_t delta_x
 }
 
 void ControlState::tell_face() {
+    state_changed();
     if (face_) on_main_stack([this] { apply_to(*face_); });
 }
 
@@ -317,6 +332,8 @@ void ControlState::focus_changed(bool has_focus) {
         const Ref<Object> kept(self_);
         const Ref<Object> pane = pane_of(self_);
         if (!pane || window_ == nullptr) return;
+        const Ref<Object> window(window_);
+        tell_focus_around(window.object(), has_focus);
         has_focus ? pane_got_focus(pane.object()) : pane_lost_focus(pane.object());
     });
 }

@@ -95,7 +95,7 @@ Ref<Object> FolderItemDialogShowWithin(Object* dialog, Object* window) {
     core::need_main_thread();
     const auto held = Ref<Object>::hold(window);
     return show(dialog_of(dialog),
-                [window] { return window == nullptr ? nullptr : core::window_state(window).face(); });
+                [window] { return window == nullptr ? nullptr : core::window_state(window).outermost().face(); });
 }
 
 }  // namespace tavrik

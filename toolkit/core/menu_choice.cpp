@@ -132,10 +132,11 @@ void act(Object* item, Object* window) {
     if (action(original.object())) return;
     const Ref<Object> focus = focus_of(window);
     if (focus && control_state(focus.object()).menu_handlers.call(focus.object(), name)) return;
-    if (window != nullptr && window_state(window).menu_handlers.call(window, name)) return;
-    if (app && application_menu_handlers(app.object()).call(app.object(), name)) return;
+    // A container answers here, for what has the focus inside of it.
     const Ref<Object> pane = focus ? pane_field.get(focus.object()) : nullptr;
     if (pane && pane_handles(pane.object(), item)) return;
+    if (window != nullptr && window_state(window).menu_handlers.call(window, name)) return;
+    if (app && application_menu_handlers(app.object()).call(app.object(), name)) return;
     if (window != nullptr && window_handles(window, item)) return;
     if (app) application_handles(app.object(), item);
 }
@@ -169,8 +170,9 @@ Ref<Object> pop_up_menu(Object* item, std::optional<front::Point> at, Object* wi
     if (!shows_anything(menu)) return nullptr;
 
     flush_all_streams();
-    const std::optional<front::MenuId> chosen = on_main_stack(
-        [&] { return front().pop_up(menu, at, window == nullptr ? nullptr : window_state(window).face()); });
+    const std::optional<front::MenuId> chosen = on_main_stack([&] {
+        return front().pop_up(menu, at, window == nullptr ? nullptr : window_state(window).outermost().face());
+    });
     if (chosen) return choose(item, *chosen, window);
     EventScope::note_cancel();
     return nullptr;

@@ -44,11 +44,16 @@ struct PaneImp : NativeState {
 
 Object* pane_behind(const Object* imp) { return native<PaneImp>(imp)->pane; }
 
-// nullptr for the root of a window, and once the pane is gone.
+// nullptr for the root of a window.
+ControlState* control_of(const Object* pane) {
+    Object* const control = pane_control.peek(pane);
+    return control == nullptr ? nullptr : native<ControlState>(control);
+}
+
+// nullptr once the pane is gone, too.
 ControlState* control_behind(const Object* imp) {
     Object* const pane = pane_behind(imp);
-    Object* const control = pane == nullptr ? nullptr : pane_control.peek(pane);
-    return control == nullptr ? nullptr : native<ControlState>(control);
+    return pane == nullptr ? nullptr : control_of(pane);
 }
 
 Ref<ArrayOf<Object>> children_of(const Object* pane) { return static_ref<ArrayOf<Object>>(pane_children.get(pane)); }
@@ -174,6 +179,15 @@ void create_imp(Object* pane) {
     pane_native.set(pane, imp.object());
 }
 
+void enable_menu_items(Object* pane, Object* items) {
+    if (ControlState* const control = control_of(pane)) control->enable_menu_items(items);
+}
+
+bool handle_menu_command(Object* pane, Object* item) {
+    ControlState* const control = control_of(pane);
+    return control != nullptr && control->handle_menu_command(item);
+}
+
 // The native side may be held by others, and outlive its pane.
 void part_from_imp(Object* pane) {
     if (Object* const imp = pane_native.peek(pane)) native<PaneImp>(imp)->pane = nullptr;
@@ -186,6 +200,8 @@ ClassRecord* native_pane_class() {
         made->vtable = RuntimeNewVtable(made->vtable_size);
         std::copy_n(parent->vtable, made->vtable_size, made->vtable);
         made->vtable[find_slot("_Pane", "CreateImp", "%%")] = entry(create_imp);
+        made->vtable[find_slot("_Pane", "EnableMenuItems", "%%A1o<MenuItem>")] = entry(enable_menu_items);
+        made->vtable[find_slot("_Pane", "HandleMenuCommand", "%b%o<MenuItem>")] = entry(handle_menu_command);
         made->exit = part_from_imp;
         return made;
     }();

@@ -4,11 +4,16 @@
 
 #include <tavrik/object.h>
 
+#include <limits>
+
 // The panes of controls and windows, as the class layer sees them. The core has the truth about rectangles, flags and
 // the tree, and writes it into the panes; what is set on a pane comes back through its native side.
 namespace tavrik::core {
 
 class ControlState;
+
+// A place that lies in no pane.
+inline constexpr std::int32_t kOutsideOfPanes = std::numeric_limits<std::int32_t>::min() / 2;
 
 // Gives a control a new pane of the toolkit's own class, which takes over from the one that it has.
 void create_pane(Object* control);

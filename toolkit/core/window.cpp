@@ -2,6 +2,7 @@
 #include "toolkit/core/window.h"
 
 #include "toolkit/core/control.h"
+#include "toolkit/core/embedded_window_control.h"
 #include "toolkit/core/main_thread.h"
 #include "toolkit/core/mdi_window.h"
 #include "toolkit/core/menu_item.h"
@@ -15,6 +16,9 @@
 #include <tavrik/exception.h>
 #include <tavrik/runtime.h>
 #include <tavrik/window.h>
+
+#include <algorithm>
+#include <initializer_list>
 
 namespace tavrik {
 namespace core {
@@ -50,29 +54,35 @@ void open(Object* window) {
     opened_event(window);
 }
 
-// Any step may close the window, which is the end of its construction.
-void construct(Object* window) {
-    constexpr void (*kSteps[])(Object*) = {
-        create_content_pane,
-        [](Object* self) { layout(self); },
-        [](Object* self) { create_controls(self); },
-        find_initial_parents,
-        [](Object* self) { add_menu_handlers(self, self); },
-        [](Object* self) { setup_bindings(self); },
-        open_controls,
-        open,
-    };
-    for (const auto step : kSteps) {
+// Each step may close the window. Whether it has not.
+bool run(Object* window, std::initializer_list<void (*)(Object*)> steps) {
+    return std::ranges::all_of(steps, [window](const auto step) {
         step(window);
-        if (!is_open(window)) return;
-    }
-    mdi_windows_have_a_window();
+        return is_open(window);
+    });
+}
+
+void construct(Object* window) {
+    const bool made = run(window, {
+                                      create_content_pane,
+                                      [](Object* self) { layout(self); },
+                                      [](Object* self) { create_controls(self); },
+                                      find_initial_parents,
+                                      [](Object* self) { add_menu_handlers(self, self); },
+                                      [](Object* self) { setup_bindings(self); },
+                                  });
     WindowState& state = window_state(window);
+    // A container opens where it is embedded.
+    if (!made || state.is_container()) return;
+    open_window(window);
+    if (!is_open(window)) return;
+    mdi_windows_have_a_window();
     if (state.description.visible) state.show();
 }
 
 // nullptr where a window can't be shown within this one.
 Object* shown_owner(Object* window, Object* owner) {
+    if (owner != nullptr) owner = window_state(owner).outermost().self();
     if (owner == nullptr || owner == window || !window_state(owner).is_on_screen()) return nullptr;
     // Two windows can't stay above each other.
     for (Object* above = owner; above != nullptr; above = window_state(above).owner()) {
@@ -116,6 +126,7 @@ void place_beside(Object* window, Object* other, std::int32_t side) {
 void show_modal(Object* window, Object* owner) {
     const Ref<Object> kept(window);
     WindowState& state = window_state(window);
+    if (state.is_container()) return show_in_front(window);
     // A window that waits already goes on doing so, further out.
     state.set_owner(owner);
     state.set_modality(owner == nullptr ? front::Modality::kProgram : front::Modality::kWindow);
@@ -129,6 +140,8 @@ void show_modal(Object* window, Object* owner) {
 }
 
 }  // namespace
+
+void open_window(Object* window) { run(window, {open_controls, open}); }
 
 Ref<ArrayOf<Object>> control_list(Object* window) {
     return static_ref<ArrayOf<Object>>(control_list_field.get(window));
@@ -144,6 +157,7 @@ void update_dirty_windows() {
     } catch (...) {
         // Once is enough to be told.
         for (const Ref<Object>& window : open_windows()) remove_dirty_window(window.object());
+        for (const Ref<Object>& container : open_containers()) remove_dirty_window(container.object());
         throw;
     }
 }
@@ -152,8 +166,13 @@ namespace {
 
 void refresh(Object* window, const front::Rect* part) {
     WindowState& state = window_state(window);
-    if (state.face() == nullptr) return;
-    on_main_stack([&] { state.face()->refresh(part); });
+    if (state.host() != nullptr) {
+        state.host()->refresh(part);
+    } else if (state.face() != nullptr) {
+        on_main_stack([&] { state.face()->refresh(part); });
+    } else {
+        return;
+    }
     if (is_open(window)) add_dirty_window(window);
 }
 
@@ -199,6 +218,7 @@ void RuntimeHideWindow(Object* window) { window_state(window).hide(); }
 
 void RuntimeShowWithinWindow(Object* window, Object* other, std::int32_t side) {
     const Ref<Object> kept(window);
+    if (window_state(window).is_container()) return core::show_in_front(window);
     Object* const owner = core::shown_owner(window, other);
     window_state(window).set_owner(owner);
     if (owner != nullptr) core::place_beside(window, owner, side);
@@ -231,7 +251,7 @@ void formRefreshRect(Object* window, std::int32_t left, std::int32_t top, std::i
 }
 
 void WindowForceUpdateFrontBuffer(Object* window) {
-    core::WindowState& state = window_state(window);
+    core::WindowState& state = window_state(window).outermost();
     if (state.face() != nullptr) core::on_main_stack([&] { state.face()->update_now(); });
 }
 

@@ -13,11 +13,13 @@
 namespace tavrik::core {
 
 class ControlState;
+class HostState;
 
 // A window: what it is, and its face once it has been shown.
 class WindowState final : public NativeState, private front::WindowListener {
 public:
-    explicit WindowState(Object* self) : self_(self) {}
+    explicit WindowState(Object* self);
+    ~WindowState() override;
 
     // How the program wants it. The content's bounds are those that it has, or comes back to, in its normal size.
     front::WindowDescription description;
@@ -58,11 +60,28 @@ public:
     void set_owner(Object* owner);
     void set_modality(front::Modality modality);
 
+    // A container lies in a control of another window, its host. It has no face of its own, and its place is the
+    // host's.
+    bool is_container() const { return is_container_; }
+    // nullptr unless it is embedded.
+    HostState* host() const { return is_embedded_ ? host_ : nullptr; }
+    // What stands in for it once it is embedded.
+    HostState& future_host();
+    void embed();
+    void follow_host();
+    void part_from_host();
+    Object* self() const { return self_; }
+    // The window that it lies in at last.
+    WindowState& outermost();
+
     // Gives the control a face, if what it lies in has one.
     void attach(ControlState& control);
+    // The same for all of them.
+    void attach_controls();
+    void detach_controls();
     // The pointer's place in the content; its corner where there is no pointer.
     front::Point pointer() const;
-    bool active() const { return active_; }
+    bool active() const;
     // A key that no control has used. Whether the window has.
     bool press_key(const front::Key& key);
 
@@ -92,7 +111,13 @@ private:
     template <class Report>
     void take(Report report);
 
+    // What the faces of the controls lie in.
+    front::ContainerFace* contents() const;
     void make_face();
+    // It and the containers in it.
+    void tell_active(bool active);
+    // The containers that have only heard that they were being resized.
+    static void tell_containers_resized(Object* window);
     // The controls keep to their locks when the content has another size.
     void lay_out();
     front::WindowDescription described() const;
@@ -112,6 +137,12 @@ private:
     std::unique_ptr<front::WindowFace> face_;
     front::Rect laid_out_;  // the size that the controls have followed
     bool active_ = false;
+    bool being_resized_ = false;  // by the person, who hasn't let go yet
+    bool owes_resized_ = false;
+    bool is_container_;
+    bool is_embedded_ = false;
+    HostState* host_ = nullptr;
+    Ref<Object> host_control_;
 };
 
 WindowState& window_state(Object* window, const char* call = __builtin_FUNCTION());
@@ -120,6 +151,8 @@ WindowState& window_state(Object* window, const char* call = __builtin_FUNCTION(
 Ref<ArrayOf<Object>> control_list(Object* window);
 // The names of its controls; nil once it is closed.
 Ref<Object> control_names(Object* window);
+// Opens its controls and raises Open.
+void open_window(Object* window);
 // A control that has closed by itself leaves the window.
 void control_has_closed(Object* window, Object* control);
 

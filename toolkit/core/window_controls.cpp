@@ -1,5 +1,5 @@
 // The controls that a window knows.
-#include "toolkit/core/control.h"
+#include "toolkit/core/embedded_window_control.h"
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/scheduler.h"
 #include "toolkit/core/window.h"
@@ -94,7 +94,9 @@ std::int32_t windowControlCountGetter(Object* window, std::int32_t) {
 }
 
 void formSetFocus(Object* window) {
-    core::WindowState& state = core::window_state(window);
+    core::HostState* const host = core::window_state(window).host();
+    if (host != nullptr && core::bool_property(host->self(), "AcceptFocus")) return host->set_focus();
+    core::WindowState& state = core::window_state(window).outermost();
     if (state.face() != nullptr) core::on_main_stack([&] { state.face()->clear_focus(); });
 }
 

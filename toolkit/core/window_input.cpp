@@ -1,12 +1,12 @@
 // What the person does in a window, on its way to the panes.
 #include "toolkit/core/contextual_menu.h"
+#include "toolkit/core/embedded_window_control.h"
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/pane.h"
 #include "toolkit/core/reflection.h"
 #include "toolkit/core/window.h"
 
 #include <functional>
-#include <limits>
 
 namespace tavrik::core {
 namespace {
@@ -18,8 +18,6 @@ constinit Operation<bool(std::int32_t, std::int32_t, std::int32_t, std::int32_t)
 constinit Operation<bool(const String&, std::int32_t, std::int32_t)> key_pressed{"_Pane", "HandleKeyDown", "%b%si4i4"};
 constinit Event<void(std::int32_t, std::int32_t)> drag_event{"Window", "MouseDrag"};
 constinit Event<void(std::int32_t, std::int32_t)> up_event{"Window", "MouseUp"};
-
-constexpr std::int32_t kOutside = std::numeric_limits<std::int32_t>::min() / 2;  // of any pane
 
 // One event with the root of the window's panes; nothing once the window is closed.
 void with_content_pane(Object* window, const std::function<void(Object*)>& call) {
@@ -78,12 +76,15 @@ void WindowState::mouse_moved(front::Point at) {
 }
 
 void WindowState::mouse_left() {
-    with_content_pane(self_, [](Object* pane) { pointer_moved(pane, kOutside, kOutside); });
+    with_content_pane(self_, [](Object* pane) { pointer_moved(pane, kOutsideOfPanes, kOutsideOfPanes); });
 }
 
 bool WindowState::press_key(const front::Key& key) {
     const Ref<Object> pane = content_pane_of(self_);
-    return pane && key_pressed(pane.object(), String(std::string_view(key.text)), key.code, key.modifiers);
+    if (pane && key_pressed(pane.object(), String(std::string_view(key.text)), key.code, key.modifiers)) return true;
+    if (host() == nullptr || host()->window() == nullptr) return false;
+    const Ref<Object> around(host()->window());
+    return window_state(around.object()).press_key(key);
 }
 
 }  // namespace tavrik::core

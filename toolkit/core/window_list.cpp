@@ -1,6 +1,7 @@
 #include "toolkit/core/window_list.h"
 
 #include "toolkit/core/application.h"
+#include "toolkit/core/embedded_window_control.h"
 #include "toolkit/core/mdi_window.h"
 #include "toolkit/core/pane.h"
 #include "toolkit/core/program.h"
@@ -20,6 +21,8 @@ namespace {
 using Closing = WindowState::Closing;
 
 constinit Event<void()> closed_event{"Window", "Close"};
+constinit Event<bool(bool)> cancel_close{"Window", "CancelClose"};
+constinit Operation<void()> close_control{"Control", "Close", "%%"};
 constinit Operation<bool(bool)> unified_close{"Window", "_UnifiedClose", "%b%b"};
 constinit SharedOperation<void(Object*)> remove_dirty_window{"Window", "_RemoveDirtyWindow", "%%o<Window>"};
 
@@ -28,10 +31,19 @@ std::vector<Ref<Object>>& windows() {
     return *open;
 }
 
+std::vector<Ref<Object>>& containers() {
+    static auto* const open = new std::vector<Ref<Object>>;
+    return *open;
+}
+
+std::vector<Ref<Object>>& list_of(Object* window) {
+    return window_state(window).is_container() ? containers() : windows();
+}
+
 // Implicit instances, and the class that was asked for in vain last: its next window is one.
 struct ImplicitWindows {
     std::string awaited;
-    std::vector<Object*> instances;  // open, so held by windows()
+    std::vector<Object*> instances;  // open, so held by one of the lists
 };
 
 ImplicitWindows& implicit_windows() {
@@ -46,9 +58,31 @@ void note_if_implicit(Object* window) {
     implicit.instances.push_back(window);
 }
 
+// Whether none of the containers in the window, however deep, refuses.
+bool contents_agree_to_close(Object* window, bool app_is_quitting) {
+    for (const Ref<Object>& container : containers_in(window)) {
+        WindowState& state = window_state(container.object());
+        if (state.closing != Closing::kNo) continue;
+        state.closing = Closing::kAsked;
+        try {
+            const bool agreed = contents_agree_to_close(container.object(), app_is_quitting) &&
+                                !cancel_close(container.object(), app_is_quitting);
+            state.closing = Closing::kNo;
+            if (!agreed) return false;
+        } catch (...) {
+            state.closing = Closing::kNo;
+            throw;
+        }
+    }
+    return true;
+}
+
 // At the very end the class layer has let go of its lists, and raises when it finds them gone.
 bool agrees_to_close(Object* window, AppIsQuitting quitting) {
-    if (quitting != AppIsQuitting::kNoMatterWhat) return unified_close(window, quitting == AppIsQuitting::kYes);
+    if (quitting != AppIsQuitting::kNoMatterWhat) {
+        const bool app_is_quitting = quitting == AppIsQuitting::kYes;
+        return contents_agree_to_close(window, app_is_quitting) && unified_close(window, app_is_quitting);
+    }
     try {
         unified_close(window, true);
     } catch (const RaisedException& raised) {
@@ -67,6 +101,16 @@ void part_from_owned(Object* window) {
     }
 }
 
+// The other half of a container goes with it.
+void end_host(Object* container) {
+    HostState* const host = window_state(container).host();
+    if (host == nullptr) return window_state(container).part_from_host();
+    const Ref<Object> kept(host->self());
+    const bool stays = !std::exchange(host->ending, true);
+    window_state(container).part_from_host();
+    if (stays) close_control(kept.object());
+}
+
 void end(Object* window) {
     WindowState& state = window_state(window);
     state.closing = Closing::kClosed;
@@ -80,17 +124,23 @@ void end(Object* window) {
     mdi_windows_lose(window);
     remove_dirty_window(window);
     std::erase(implicit_windows().instances, window);
-    std::erase(windows(), Ref<Object>(window));
+    std::erase(list_of(window), Ref<Object>(window));
+    end_host(window);
 }
 
 }  // namespace
 
 const std::vector<Ref<Object>>& open_windows() { return windows(); }
 
-bool is_open(Object* window) { return std::ranges::find(windows(), Ref<Object>(window)) != windows().end(); }
+const std::vector<Ref<Object>>& open_containers() { return containers(); }
+
+bool is_open(Object* window) {
+    const std::vector<Ref<Object>>& list = list_of(window);
+    return std::ranges::find(list, Ref<Object>(window)) != list.end();
+}
 
 void enter_open_windows(Object* window) {
-    windows().emplace_back(window);
+    list_of(window).emplace_back(window);
     note_if_implicit(window);
 }
 
@@ -137,15 +187,30 @@ bool close_window(Object* window, AppIsQuitting quitting) {
         raised = exception.exception;
     }
     end(window);
-    if (quitting == AppIsQuitting::kNo && windows().empty() && quits_with_last_window()) quit();
+    if (quitting == AppIsQuitting::kNo && !state.is_container() && windows().empty() && quits_with_last_window())
+        quit();
     if (raised) RuntimeReraiseException(raised.object());
     return true;
 }
 
 bool close_all_windows(AppIsQuitting quitting) {
     const std::vector<Ref<Object>> all = windows();
-    return std::all_of(all.rbegin(), all.rend(),
-                       [&](const Ref<Object>& window) { return close_window(window.object(), quitting); });
+    const bool closed = std::all_of(all.rbegin(), all.rend(),
+                                    [&](const Ref<Object>& window) { return close_window(window.object(), quitting); });
+    // Those that nobody has embedded.
+    while (quitting == AppIsQuitting::kNoMatterWhat && !containers().empty()) {
+        const Ref<Object> container = containers().back();
+        close_window(container.object(), quitting);
+        std::erase(containers(), container);
+    }
+    return closed;
+}
+
+void close_with_host(Object* container) {
+    constexpr bool (*kAgrees)(Object*, bool) = [](Object*, bool) { return false; };
+    if (!is_open(container)) return;
+    RuntimeInstallInstanceEventHandler(container, String("CancelClose"), reinterpret_cast<Function>(kAgrees));
+    close_window(container, AppIsQuitting::kNoMatterWhat);
 }
 
 void give_up_window(Object* window) {

@@ -9,6 +9,8 @@ namespace tavrik::core {
 
 // The windows that have been opened and not closed, the last activated last.
 const std::vector<Ref<Object>>& open_windows();
+// The same of containers, which count as no windows: embedded or not.
+const std::vector<Ref<Object>>& open_containers();
 bool is_open(Object* window);
 // From now on the toolkit holds the window.
 void enter_open_windows(Object* window);
@@ -24,6 +26,8 @@ enum class AppIsQuitting { kNo, kYes, kNoMatterWhat };
 // Whether the window closed.
 bool close_window(Object* window, AppIsQuitting quitting);
 bool close_all_windows(AppIsQuitting quitting);
+// Without asking: it was asked together with the window around it. Its host takes it along.
+void close_with_host(Object* container);
 // Without asking, and without its Close event: of a window whose construction failed.
 void give_up_window(Object* window);
 

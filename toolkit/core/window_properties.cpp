@@ -1,3 +1,4 @@
+#include "toolkit/core/embedded_window_control.h"
 #include "toolkit/core/mouse_cursor.h"
 #include "toolkit/core/scheduler.h"
 #include "toolkit/core/window.h"
@@ -68,11 +69,8 @@ auto asked(Object* window, Answer answer, const char* call = __builtin_FUNCTION(
     return core::on_main_stack([&] { return answer(*state.face()); });
 }
 
-front::Point pointer_in(Object* window) {
-    return asked(window, [](front::WindowFace& face) { return face.pointer(); }).value_or(front::Point());
-}
-
 std::uintptr_t handle_of(Object* window) {
+    if (const core::HostState* const host = window_state(window).host()) return host->handle();
     return asked(window, [](front::WindowFace& face) { return face.handle(); });
 }
 
@@ -93,7 +91,7 @@ constexpr bool kOnMac = false;
 bool WindowVisibleGetter(Object* window, std::int32_t) { return window_state(window).description.visible; }
 void WindowVisibleSetter(Object* window, std::int32_t, bool visible) {
     core::WindowState& state = window_state(window);
-    if (!state.opened) {
+    if (!state.opened && state.host() == nullptr) {
         state.description.visible = visible;
     } else if (visible) {
         state.show();
@@ -187,8 +185,8 @@ void formMouseCursorSetter(Object* window, std::int32_t field, Object* cursor) {
     set<&Description::cursor>(window, core::cursor_of(cursor));
 }
 
-std::int32_t windowMouseXGetter(Object* window, std::int32_t) { return pointer_in(window).left; }
-std::int32_t windowMouseYGetter(Object* window, std::int32_t) { return pointer_in(window).top; }
+std::int32_t windowMouseXGetter(Object* window, std::int32_t) { return window_state(window).pointer().left; }
+std::int32_t windowMouseYGetter(Object* window, std::int32_t) { return window_state(window).pointer().top; }
 
 // An identifier of the window system has 32 bits.
 std::int32_t WindowHandleGetter(Object* window, std::int32_t) { return static_cast<std::int32_t>(handle_of(window)); }

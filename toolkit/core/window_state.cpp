@@ -1,4 +1,4 @@
-#include "toolkit/core/control.h"
+#include "toolkit/core/embedded_window_control.h"
 #include "toolkit/core/event_scope.h"
 #include "toolkit/core/main_thread.h"
 #include "toolkit/core/mdi_window.h"
@@ -11,6 +11,7 @@
 #include "toolkit/core/window_list.h"
 
 #include <tavrik/exception.h>
+#include <tavrik/runtime.h>
 #include <tavrik/window.h>
 #include <tavrik/wrapping.h>
 
@@ -51,6 +52,13 @@ bool is_modal_by_itself(front::WindowFrame frame) {
 
 }  // namespace
 
+WindowState::WindowState(Object* self)
+    : self_(self), is_container_(RuntimeObjectIsa(self, RuntimeFindClass("ContainerControl"))) {
+    description.visible = is_container_;
+}
+
+WindowState::~WindowState() { part_from_host(); }
+
 WindowState& window_state(Object* window, const char* call) {
     need_main_thread(call);
     if (window == nullptr) RaiseNilObjectException();
@@ -80,10 +88,13 @@ void WindowState::tell_bounds(const front::Rect& before) {
     const front::Rect now = bounds();
     lay_out();
     if (opened && (now.left != before.left || now.top != before.top)) call_moved(self_);
-    if (opened && (now.width != before.width || now.height != before.height)) call_resized(self_);
+    if (!opened || (now.width == before.width && now.height == before.height)) return;
+    owes_resized_ = outermost().being_resized_;
+    owes_resized_ ? call_resizing(self_) : call_resized(self_);
 }
 
 void WindowState::set_bounds(const front::Rect& wanted) {
+    if (host() != nullptr) return host()->set_bounds(wanted);
     const front::Rect before = bounds();
     description.content = held_within_limits(wanted, description);
     changed();
@@ -93,6 +104,7 @@ void WindowState::set_bounds(const front::Rect& wanted) {
 void WindowState::limits_changed() { set_bounds(description.content); }
 
 void WindowState::set_full_screen(bool full_screen) {
+    if (is_container_) return;
     const front::Rect before = bounds();
     if (std::exchange(description.full_screen, full_screen) != full_screen) filled_.reset();
     changed();
@@ -100,7 +112,7 @@ void WindowState::set_full_screen(bool full_screen) {
 }
 
 void WindowState::set_size_state(front::WindowSize wanted) {
-    if (description.size_state == wanted) return;
+    if (description.size_state == wanted || is_container_) return;
     const Ref<Object> self(self_);
     const front::Rect before = bounds();
     description.size_state = wanted;
@@ -141,16 +153,67 @@ void WindowState::make_face() {
     face_->apply(hidden);
     menus_stale_ = true;
     apply_menus();
+    attach_controls();
+}
+
+front::ContainerFace* WindowState::contents() const {
+    if (host() != nullptr) return host()->face();
+    return face_.get();
+}
+
+void WindowState::attach(ControlState& control) {
+    front::ContainerFace* container = contents();
+    if (control.parent() != nullptr) container = control.parent()->face();
+    if (container != nullptr && control.face() == nullptr) on_main_stack([&] { control.attach(*container); });
+}
+
+void WindowState::attach_controls() {
     for_each_control(self_, [this](const Ref<Object>& each) {
         ControlState& control = control_state(each.object());
         if (control.parent() == nullptr) attach(control);
     });
 }
 
-void WindowState::attach(ControlState& control) {
-    front::ContainerFace* container = face_.get();
-    if (control.parent() != nullptr) container = control.parent()->face();
-    if (container != nullptr) on_main_stack([&] { control.attach(*container); });
+void WindowState::detach_controls() {
+    for_each_control(self_, [](const Ref<Object>& control) { control_state(control.object()).detach(); });
+}
+
+HostState& WindowState::future_host() {
+    if (host_ == nullptr) {
+        host_control_ = RuntimeNewObject(need_class("EmbeddedWindowControl"));
+        host_ = &host_state(host_control_.object());
+        host_->container = self_;
+    }
+    return *host_;
+}
+
+void WindowState::embed() {
+    is_embedded_ = true;
+    follow_host();
+}
+
+void WindowState::follow_host() {
+    const front::Rect before = bounds();
+    description.visible = host_->visible;
+    description.content = host_->bounds();
+    tell_bounds(before);
+}
+
+void WindowState::part_from_host() {
+    if (host_ != nullptr) host_->container = nullptr;
+    is_embedded_ = false;
+    host_ = nullptr;
+    const Ref<Object> gone = std::exchange(host_control_, nullptr);
+}
+
+WindowState& WindowState::outermost() {
+    const HostState* const host = this->host();
+    return host == nullptr || host->window() == nullptr ? *this : window_state(host->window()).outermost();
+}
+
+bool WindowState::active() const {
+    if (host() == nullptr || host()->window() == nullptr) return active_;
+    return window_state(host()->window()).active();
 }
 
 void WindowState::lay_out() {
@@ -167,6 +230,11 @@ void WindowState::lay_out() {
 }
 
 front::Point WindowState::pointer() const {
+    if (host() != nullptr && host()->window() != nullptr) {
+        const front::Point outside = window_state(host()->window()).pointer();
+        return {wrapping_difference(outside.left, host()->bounds().left),
+                wrapping_difference(outside.top, host()->bounds().top)};
+    }
     if (!face_) return {};
     return on_main_stack([this] { return face_->pointer(); }).value_or(front::Point());
 }
@@ -175,6 +243,7 @@ void WindowState::show() {
     if (closing == Closing::kClosed) return;
     const Ref<Object> self(self_);
     description.visible = true;
+    if (is_container_) return changed();
     if (!face_) {
         description.minimize_button = bool_property(self_, "MinimizeButton");
         on_main_stack([this] { make_face(); });
@@ -189,6 +258,10 @@ void WindowState::hide() {
 }
 
 void WindowState::changed() {
+    if (host() != nullptr) {
+        host()->visible = description.visible;
+        return host()->changed();
+    }
     if (face_) on_main_stack([this] { face_->apply(described()); });
 }
 
@@ -210,7 +283,7 @@ void WindowState::look_at_stored_properties() {
 }
 
 void WindowState::drop_face() {
-    for_each_control(self_, [](const Ref<Object>& control) { control_state(control.object()).detach(); });
+    detach_controls();
     if (face_) on_main_stack([this] { face_.reset(); });
 }
 
@@ -246,8 +319,20 @@ void WindowState::activated(bool active) {
     take([this, active] {
         active_ = active;
         if (active) move_to_front(self_);
-        active ? call_activated(self_) : call_deactivated(self_);
+        tell_active(active);
     });
+}
+
+void WindowState::tell_containers_resized(Object* window) {
+    for (const Ref<Object>& container : containers_in(window)) {
+        if (std::exchange(window_state(container.object()).owes_resized_, false)) call_resized(container.object());
+        tell_containers_resized(container.object());
+    }
+}
+
+void WindowState::tell_active(bool active) {
+    active ? call_activated(self_) : call_deactivated(self_);
+    for (const Ref<Object>& container : containers_in(self_)) window_state(container.object()).tell_active(active);
 }
 
 void WindowState::moved(int left, int top) {
@@ -267,8 +352,10 @@ void WindowState::resized(int width, int height, front::ResizePhase phase) {
         bounds_now().width = width;
         bounds_now().height = height;
         if (!under_way) before_resize_.reset();
+        being_resized_ = under_way;
         lay_out();
         under_way ? call_resizing(self_) : call_resized(self_);
+        if (!under_way) tell_containers_resized(self_);
     });
 }
 
@@ -283,8 +370,10 @@ void WindowState::size_state_changed(front::WindowSize now) {
             filled_ = here;
             if (before_resize_) description.content = *std::exchange(before_resize_, std::nullopt);
         }
+        being_resized_ = false;
         lay_out();
         tell_size_state();
+        tell_containers_resized(self_);
     });
 }
 

@@ -34,17 +34,20 @@ QTabWidget::TabPosition position_of(TabSide side) {
 
 class Tabs::Bar final : public QTabBar {
 public:
-    explicit Bar(Tabs& tabs) : QTabBar(&tabs), tabs_(tabs) {
+    explicit Bar(Tabs& tabs) : QTabBar(&tabs), tabs_(&tabs) {
         // Otherwise the control would hear of them twice.
         setAttribute(Qt::WA_NoMousePropagation);
         setMouseTracking(true);
     }
 
+    // Qt deletes the bar, and sends it events, when the tabs aren't what they were any more.
+    void stop() { tabs_ = nullptr; }
+
 protected:
-    bool event(QEvent* event) override { return tabs_.report_of_bar(*event) || QTabBar::event(event); }
+    bool event(QEvent* event) override { return (tabs_ && tabs_->report_of_bar(*event)) || QTabBar::event(event); }
 
 private:
-    Tabs& tabs_;
+    Tabs* tabs_;
 };
 
 Tabs::Tabs(Container& outer, ControlListener& control, TabsListener& tabs) : ControlWidget(outer, control) {
@@ -55,6 +58,8 @@ Tabs::Tabs(Container& outer, ControlListener& control, TabsListener& tabs) : Con
         if (reports() && !applying_ && tab >= 0) tabs.tab_chosen(tab);
     });
 }
+
+Tabs::~Tabs() { static_cast<Bar*>(tabBar())->stop(); }
 
 void Tabs::apply(const TabsDescription& tabs) {
     const QScopedValueRollback applying(applying_, true);

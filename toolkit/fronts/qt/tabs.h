@@ -13,6 +13,7 @@ namespace tavrik::front::qt {
 class Tabs final : public ControlWidget<QTabWidget> {
 public:
     Tabs(Container& outer, ControlListener& control, TabsListener& tabs);
+    ~Tabs() override;
 
     void apply(const TabsDescription& tabs);
     int tab_at(QPoint at) const;

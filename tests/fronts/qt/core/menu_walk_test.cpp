@@ -1,29 +1,13 @@
-#include "tests/support/balance.h"
-#include "toolkit/core/program.h"
-#include "toolkit/core/window.h"
-#include "toolkit/fronts/qt/window_face.h"
+#include "tests/fronts/qt/core/qt_core_test.h"
 #include "ui/menu_bar.h"
-#include "ui/window.h"
 
 #include <QMenu>
 #include <QMenuBar>
-#include <gtest/gtest.h>
 
-#include <memory>
-#include <random>
 #include <string>
-
-extern "C" tavrik::front::Front* tavrik_make_front(const tavrik::front::Start& start, std::string& reason);
 
 namespace tavrik::test {
 namespace {
-
-struct Nobody final : front::ApplicationListener {
-    void quit_requested() override {}
-    void woken() override {}
-    void activated(bool) override {}
-    void open_documents(std::span<const std::string>) override {}
-};
 
 // What an entry shows, and what is below it.
 std::string told(const Ref<MenuItem>& item, bool is_menu) {
@@ -56,22 +40,12 @@ std::string seen(const QAction& action) {
     return text + ']';
 }
 
-class MenuWalk : public testing::Test {
+class MenuWalk : public QtCoreTest {
 protected:
     MenuWalk() {
-        std::string reason;
-        core::use_front(std::unique_ptr<front::Front>(tavrik_make_front({"Walk", nobody_}, reason)));
-        window_->Window_();
         window_->set_MenuBar(bar_);
         window_->Show();
     }
-    ~MenuWalk() override {
-        window_->Close();
-        window_ = nullptr;
-        core::use_front(nullptr);
-    }
-
-    int random(int below) { return std::uniform_int_distribution(0, below - 1)(random_); }
 
     // Any item of the tree; the bar where the walk down ends at once.
     Ref<MenuItem> any(bool may_be_bar) {
@@ -119,16 +93,9 @@ protected:
         }
     }
 
-    QMenuBar& shown_bar() {
-        auto* const face = static_cast<front::qt::QtWindowFace*>(core::window_state(window_.object()).face());
-        return *face->window().findChild<QMenuBar*>();
-    }
+    QMenuBar& shown_bar() { return *shown_window().findChild<QMenuBar*>(); }
 
-    Balance balance_;
-    Nobody nobody_;
-    std::mt19937 random_{20};
     int made_ = 0;
-    Ref<Window> window_ = make<Window>();
     Ref<MenuBar> bar_ = make<MenuBar>();
 };
 
