@@ -130,21 +130,46 @@ void tell_move(_Pane* self, std::int32_t x, std::int32_t y) {
     }
 }
 
+// The corner and the point are in the coordinates of the parent.
+bool is_outside(const _Pane& pane, std::int32_t x, std::int32_t y) {
+    const std::int32_t local_x = wrapping_difference(x, pane.mLeft);
+    const std::int32_t local_y = wrapping_difference(y, pane.mTop);
+    return local_x < 0 || local_y < 0 || pane.mWidth < local_x || pane.mHeight < local_y;
+}
+
+// What a pane does that leaves HandleMouseMove as it is.
+Function plain_mouse_move() { return _Pane::__Lookup()->vtable[slot_of<&_Pane::HandleMouseMove>]; }
+
+// Whether nothing comes of telling the pane: the pointer is outside, as it was, and there are no children. Of thousands
+// of panes all but two or three are like that. An array with the operations of `plain` has its elements itself.
+bool is_unconcerned(const _Pane& pane, std::int32_t x, std::int32_t y, const Array& plain, Function plain_move) {
+    if (!is_outside(pane, x, y) || pane.mMouseWasInBounds) return false;
+    const Array* const children = pane.mChildren.get();
+    if (children != nullptr && (children->operations != plain.operations || children->has(0))) return false;
+    return pane.vtable[slot_of<&_Pane::HandleMouseMove>] == plain_move;
+}
+
+void tell_children(ArrayOf<_Pane>& children, std::int32_t x, std::int32_t y) {
+    const Function plain_move = plain_mouse_move();
+    for (std::int32_t i = 0; children.has(i) || i <= children.upper_bound(); ++i) {
+        const _Pane* const near = children.has(i) ? children.peek(i) : nullptr;
+        if (near == nullptr || !is_unconcerned(*near, x, y, children, plain_move))
+            children.at(i)->HandleMouseMove(x, y);
+        RuntimeBackgroundTask();
+    }
+}
+
 void handle_mouse_move(_Pane* self, std::int32_t x, std::int32_t y) {
     const Frame frame(self);
     const std::int32_t local_x = wrapping_difference(x, self->mLeft);
     const std::int32_t local_y = wrapping_difference(y, self->mTop);
-    const bool outside = local_x < 0 || local_y < 0 || self->mWidth < local_x || self->mHeight < local_y;
+    const bool outside = is_outside(*self, x, y);
     if (outside && self->mMouseWasInBounds) tell_exit(self);
     if (!outside && !self->mMouseWasInBounds) tell_enter(self);
     if (!outside) tell_move(self, local_x, local_y);
 
     const Ref<ArrayOf<_Pane>> children = self->mChildren;
-    if (!children) return;
-    for (std::int32_t i = 0; i <= children->upper_bound(); ++i) {
-        children->at(i)->HandleMouseMove(local_x, local_y);
-        RuntimeBackgroundTask();
-    }
+    if (children) tell_children(*children.get(), local_x, local_y);
 }
 
 void handle_mouse_enter(_Pane* self) {

@@ -139,7 +139,7 @@ void ControlParentSetter(Object* control, std::int32_t, Object* parent) {
     control_state(control).set_parent(parent == nullptr ? nullptr : &control_state(parent));
 }
 void ControlInitialParentSetter(Object* control, std::int32_t, const String& parent) {
-    control_state(control).set_initial_parent(std::string(parent.view()));
+    control_state(control).set_initial_parent(parent);
 }
 std::int32_t ControlTabIndexGetter(Object* control, std::int32_t) { return control_state(control).tab_index; }
 void ControlTabIndexSetter(Object* control, std::int32_t, std::int32_t index) {
@@ -175,13 +175,13 @@ void RuntimeControlInvalidateRect(Object* control, std::int32_t left, std::int32
     RuntimeControlRefreshRect(control, left, top, width, height, erase);
 }
 
-void controlAcceptTextDrop(Object* control) { control_state(control).accepted_drops.text = true; }
-void controlAcceptPictureDrop(Object* control) { control_state(control).accepted_drops.pictures = true; }
+void controlAcceptTextDrop(Object* control) { control_state(control).accepted_drops().text = true; }
+void controlAcceptPictureDrop(Object* control) { control_state(control).accepted_drops().pictures = true; }
 void controlAcceptFileDrop(Object* control, const String& types) {
-    control_state(control).accepted_drops.add(control_state(control).accepted_drops.file_types, types.view());
+    core::AcceptedDrops::add(control_state(control).accepted_drops().file_types, types.view());
 }
 void controlAcceptMacDataDrop(Object* control, const String& type) {
-    control_state(control).accepted_drops.add(control_state(control).accepted_drops.data_types, type.view());
+    core::AcceptedDrops::add(control_state(control).accepted_drops().data_types, type.view());
 }
 
 void ControlAddMenuHandler(Object* control, const String& item, Function handler) {

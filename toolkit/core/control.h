@@ -5,9 +5,9 @@
 #include "toolkit/front/front.h"
 
 #include <tavrik/object.h>
+#include <tavrik/string.h>
 
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace tavrik::core {
@@ -40,7 +40,7 @@ public:
     // of another window, for itself and for what lies in it.
     void set_parent(ControlState* parent);
     // The parent of that name, at once if the window has it by now and else when the window opens.
-    void set_initial_parent(std::string name);
+    void set_initial_parent(const String& name);
     void find_initial_parent();
 
     // The page of the parent that it stands on.
@@ -80,8 +80,9 @@ public:
     bool lock_right = false;
     bool lock_bottom = false;
     std::int32_t tab_index = 0;
+    // Few controls have any.
+    AcceptedDrops& accepted_drops();
     MenuHandlers menu_handlers;
-    AcceptedDrops accepted_drops;
 
 protected:
     // nullptr for a kind that shows nothing.
@@ -116,7 +117,8 @@ private:
     std::vector<ControlState*> children_;
     front::Rect bounds_;
     std::int32_t panel_index_ = 0;
-    std::string initial_parent_;
+    String initial_parent_;
+    std::unique_ptr<AcceptedDrops> accepted_drops_;
     std::unique_ptr<front::ControlFace> face_;
 };
 

@@ -153,17 +153,22 @@ void ControlState::set_parent(ControlState* parent) {
     if (window_ != nullptr) window_state(window_).attach(*this);
 }
 
-void ControlState::set_initial_parent(std::string name) {
-    initial_parent_ = std::move(name);
+void ControlState::set_initial_parent(const String& name) {
+    initial_parent_ = name;
     find_initial_parent();
 }
 
 void ControlState::find_initial_parent() {
-    if (initial_parent_.empty() || window_ == nullptr) return;
-    const Ref<Object> found = RuntimeControlReference(window_, String(std::string_view(initial_parent_)));
+    if (initial_parent_.view().empty() || window_ == nullptr) return;
+    const Ref<Object> found = RuntimeControlReference(window_, initial_parent_);
     if (!found) return;
-    initial_parent_.clear();
+    initial_parent_ = nullptr;
     set_parent(&control_state(found.object()));
+}
+
+AcceptedDrops& ControlState::accepted_drops() {
+    if (!accepted_drops_) accepted_drops_ = std::make_unique<AcceptedDrops>();
+    return *accepted_drops_;
 }
 
 void ControlState::set_panel_index(std::int32_t index) {

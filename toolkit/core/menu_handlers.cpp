@@ -6,7 +6,8 @@
 namespace tavrik::core {
 
 void MenuHandlers::add(const String& item, Function handler) {
-    handlers_.insert_or_assign(std::string(item.view()), handler);
+    if (!handlers_) handlers_ = std::make_unique<Handlers>();
+    handlers_->insert_or_assign(std::string(item.view()), handler);
 }
 
 void MenuHandlers::add(Object* dictionary, const String& item, Function handler) {
@@ -15,8 +16,9 @@ void MenuHandlers::add(Object* dictionary, const String& item, Function handler)
 }
 
 bool MenuHandlers::call(Object* owner, std::string_view item) const {
-    const auto found = handlers_.find(item);
-    if (found == handlers_.end() || found->second == nullptr) return false;
+    if (!handlers_) return false;
+    const auto found = handlers_->find(item);
+    if (found == handlers_->end() || found->second == nullptr) return false;
     return reinterpret_cast<bool (*)(Object*)>(found->second)(owner);
 }
 

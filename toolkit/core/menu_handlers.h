@@ -4,6 +4,7 @@
 #include <tavrik/string.h>
 
 #include <map>
+#include <memory>
 #include <string>
 
 namespace tavrik::core {
@@ -14,12 +15,14 @@ class MenuHandlers {
 public:
     void add(const String& item, Function handler);
     void add(Object* dictionary, const String& item, Function handler);
-    bool has(std::string_view item) const { return handlers_.find(item) != handlers_.end(); }
+    bool has(std::string_view item) const { return handlers_ && handlers_->contains(item); }
     // Calls the handler with its owner. False without one, and when it leaves the item to others.
     bool call(Object* owner, std::string_view item) const;
 
 private:
-    std::map<std::string, Function, std::less<>> handlers_;
+    using Handlers = std::map<std::string, Function, std::less<>>;
+
+    std::unique_ptr<Handlers> handlers_;  // most have none
 };
 
 }  // namespace tavrik::core

@@ -38,11 +38,11 @@ constinit Property<Ref<Object>> pane_window{"_Pane", "Window"};
 constinit Property<Ref<Object>> control_cursor{"RectControl", "MouseCursor"};
 
 // What a native side knows: its pane holds it.
-struct PaneImp : NativeState {
-    Object* pane = nullptr;
+struct PaneImp : Object {
+    Object* pane;
 };
 
-Object* pane_behind(const Object* imp) { return native<PaneImp>(imp)->pane; }
+Object*& pane_behind(Object* imp) { return static_cast<PaneImp*>(imp)->pane; }
 
 // nullptr for the root of a window.
 ControlState* control_of(const Object* pane) {
@@ -51,7 +51,7 @@ ControlState* control_of(const Object* pane) {
 }
 
 // nullptr once the pane is gone, too.
-ControlState* control_behind(const Object* imp) {
+ControlState* control_behind(Object* imp) {
     Object* const pane = pane_behind(imp);
     return pane == nullptr ? nullptr : control_of(pane);
 }
@@ -160,7 +160,7 @@ ClassRecord* imp_class() {
             entry(handle),   entry(nothing),       entry(set_focus),      entry(enable_or_disable),
             entry(graphics), entry(nothing),       entry(cursor_changed), entry(close),
             entry(refresh),  entry(refresh_rect),  entry(invalidate),     entry(invalidate_rect)};
-        ClassRecord* const made = new_hidden_class(nullptr, "_PaneImp", sizeof(Object));
+        ClassRecord* const made = new_hidden_class(nullptr, "_PaneImp", sizeof(PaneImp));
         made->vtable_size = static_cast<std::int32_t>(positions.size());
         made->vtable = RuntimeNewVtable(made->vtable_size);
         std::ranges::copy(positions, made->vtable);
@@ -173,9 +173,7 @@ ClassRecord* imp_class() {
 
 void create_imp(Object* pane) {
     const Ref<Object> imp = RuntimeNewObject(imp_class());
-    auto state = std::make_unique<PaneImp>();
-    state->pane = pane;
-    imp.object()->native = state.release();
+    pane_behind(imp.object()) = pane;
     pane_native.set(pane, imp.object());
 }
 
@@ -190,7 +188,7 @@ bool handle_menu_command(Object* pane, Object* item) {
 
 // The native side may be held by others, and outlive its pane.
 void part_from_imp(Object* pane) {
-    if (Object* const imp = pane_native.peek(pane)) native<PaneImp>(imp)->pane = nullptr;
+    if (Object* const imp = pane_native.peek(pane)) pane_behind(imp) = nullptr;
 }
 
 ClassRecord* native_pane_class() {

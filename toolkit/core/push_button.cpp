@@ -20,7 +20,7 @@ class PushButtonState final : public ControlState, private front::ButtonListener
 public:
     using ControlState::ControlState;
 
-    std::string caption;
+    String caption;
     bool is_default = false;
     bool is_cancel = false;
     front::TextStyle style;
@@ -41,7 +41,7 @@ protected:
     void apply_to(front::ControlFace& face) override {
         front::ButtonDescription button;
         describe(button);
-        button.caption = caption;
+        button.caption = caption.view();
         button.is_default = is_default;
         button.is_cancel = is_cancel;
         button.style = style;
@@ -102,11 +102,9 @@ void PushButtonCreatePane(Object* button) { core::create_pane(button); }
 void PushButtonDestructor(Object* button) { state_of(button).detach(); }
 void pushButtonPush(Object* button) { state_of(button).push(); }
 
-String pushButtonTitleGetter(Object* button, std::int32_t) {
-    return String(std::string_view(state_of(button).caption));
-}
+String pushButtonTitleGetter(Object* button, std::int32_t) { return state_of(button).caption; }
 void pushButtonTitleSetter(Object* button, std::int32_t, const String& caption) {
-    core::set(button, &State::caption, std::string(caption.view()));
+    core::set(button, &State::caption, caption);
 }
 bool pushButtonDefaultGetter(Object* button, std::int32_t) { return state_of(button).is_default; }
 void pushButtonDefaultSetter(Object* button, std::int32_t, bool is_default) {

@@ -21,6 +21,9 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    // What Qt calls for each press: a connection to its signal would cost each button several times as much memory.
+    void nextCheckState() override;
 
 private:
     // What the style leaves for the caption in a button of this size.
@@ -28,9 +31,9 @@ private:
     int caption_width() const;
     void apply_help(bool caption_shortened);
 
+    ButtonListener& button_;
     QString caption_;
-    QString help_;
-    TextStyle style_;
+    mutable int caption_width_ = -1;  // until it is asked for
     bool is_default_ = false;
     bool is_cancel_ = false;
 };

@@ -17,14 +17,21 @@ void Canvas::apply(const CanvasDescription& canvas) {
     focus_ring_ = canvas.focus_ring;
     input().tells_tabs = canvas.accepts_tabs;
     setFocusPolicy(canvas.accepts_focus ? Qt::StrongFocus : Qt::NoFocus);
-    setAccessibleName(to_qt(canvas.name));
-    setAccessibleDescription(to_qt(canvas.help));
-    setToolTip(as_plain_tool_tip(to_qt(canvas.help)));
-
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, QColor::fromRgb(canvas.background.value_or(0)));
-    setPalette(canvas.background ? colors : QPalette());
-    setAutoFillBackground(canvas.erases_background && canvas.background.has_value());
+    // What is as it was is left alone: each of these tells all that may listen.
+    if (const QString name = objectName(); name != accessibleName()) setAccessibleName(name);
+    if (const QString help = to_qt(canvas.help); help != accessibleDescription()) {
+        setAccessibleDescription(help);
+        setToolTip(as_plain_tool_tip(help));
+    }
+    if (canvas.background) {
+        QPalette colors = palette();
+        colors.setColor(QPalette::Window, QColor::fromRgb(*canvas.background));
+        setPalette(colors);
+    } else if (has_background_) {
+        setPalette(QPalette());
+    }
+    has_background_ = canvas.background.has_value();
+    setAutoFillBackground(canvas.erases_background && has_background_);
 }
 
 void Canvas::paintEvent(QPaintEvent*) {

@@ -15,6 +15,7 @@ protected:
 
 private:
     bool focus_ring_ = true;
+    bool has_background_ = false;
 };
 
 }  // namespace tavrik::front::qt

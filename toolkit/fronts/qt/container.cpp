@@ -12,7 +12,10 @@
 
 namespace tavrik::front::qt {
 
-void Container::add(Control& control) { controls_.push_back(&control); }
+void Container::add(Control& control) {
+    controls_.push_back(&control);
+    arranged_.reset();
+}
 
 void Container::remove(Control& control) {
     std::erase(controls_, &control);
@@ -20,11 +23,15 @@ void Container::remove(Control& control) {
 }
 
 void Container::arrange_later() {
-    // Qt merges requests that wait, and delivers them before it paints.
+    arranged_.reset();
+    if (std::exchange(arranges_later_, true)) return;
+    // Qt delivers it before it paints.
     QCoreApplication::postEvent(&widget_, new QEvent(QEvent::LayoutRequest));
 }
 
 void Container::arrange() {
+    arranges_later_ = false;
+    if (std::exchange(arranged_, widget_.size()) == widget_.size()) return;
     std::vector<Control*> shown;
     std::copy_if(controls_.begin(), controls_.end(), std::back_inserter(shown),
                  [](const Control* control) { return control->is_shown(); });

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QPointer>
+#include <QSize>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace tavrik::front::qt {
@@ -33,6 +34,8 @@ public:
 private:
     QWidget& widget_;
     std::vector<Control*> controls_;  // in order of creation
+    std::optional<QSize> arranged_;   // the size for which they stand right
+    bool arranges_later_ = false;
 };
 
 }  // namespace tavrik::front::qt

@@ -59,6 +59,8 @@ void Control::apply(const ControlDescription& control) {
     }
     apply_cursor(widget_, control.cursor);
     widget_.setEnabled(control.enabled);
+    // A widget of no size would look for one when it is shown.
+    if (!widget_.testAttribute(Qt::WA_Resized)) widget_.setGeometry(bounds_);
     widget_.setVisible(control.visible);
 }
 
@@ -71,7 +73,7 @@ bool Control::report(QEvent& event) {
             return !alive;
         }
         case QEvent::LayoutRequest:
-            if (!container_.empty()) container_.arrange();
+            container_.arrange();
             return false;
         case QEvent::MouseMove: {
             const QPointer<QWidget> alive(&widget_);

@@ -96,6 +96,8 @@ struct ArrayOf : Array {
     using Argument = std::conditional_t<std::is_arithmetic_v<T>, T,
                                         std::conditional_t<std::is_same_v<T, String>, const String&, Arg<T>>>;
 
+    static constexpr bool kIsReference = ElementOf<T>::kWidth == kReferenceWidth;
+
     static Ref<ArrayOf> make(std::int32_t upper_bound = -1) {
         return static_ref<ArrayOf>(CreateArray(1, ElementOf<T>::kWidth, upper_bound));
     }
@@ -106,6 +108,10 @@ struct ArrayOf : Array {
         } else {
             return static_cast<T>(read(index));
         }
+    }
+    // An object without a count of its own, where has() says that there is an element.
+    T* peek(std::int32_t index) const noexcept requires(kIsReference) {
+        return static_cast<T*>(static_cast<const Ref<Object>*>(elements)[index].object());
     }
     void set(std::int32_t index, Argument value) {
         as<typename ArrayTable<T>::Write>(operations->write)(this, plain(value), index);
@@ -122,8 +128,6 @@ struct ArrayOf : Array {
     std::int32_t upper_bound() { return as<typename ArrayTable<T>::UpperBound>(operations->upper_bound)(this, 1); }
 
 private:
-    static constexpr bool kIsReference = ElementOf<T>::kWidth == kReferenceWidth;
-
     typename ElementOf<T>::Result read(std::int32_t index) {
         if (has(index)) return static_cast<const typename ElementOf<T>::Stored*>(elements)[index];
         return as<typename ArrayTable<T>::Read>(operations->read)(this, index);
