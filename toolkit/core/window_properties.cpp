@@ -126,6 +126,8 @@ void windowPlacementSetter(Object* window, std::int32_t, std::int32_t placement)
 std::int32_t windowFrameGetter(Object* window, std::int32_t) { return number_of<&Description::frame>(window); }
 void windowFrameSetter(Object* window, std::int32_t, std::int32_t frame) {
     set_numbered<&Description::frame, front::WindowFrame::kMetal>(window, frame);
+    // Which bar a window without one of its own shows depends on its frame.
+    window_state(window).menus_changed();
 }
 
 String windowTitleGetter(Object* window, std::int32_t) {

@@ -118,6 +118,9 @@ bool InputReports::report_key(QKeyEvent& event) {
     return !key.text.empty() && listener_->key_down(key);
 }
 
-bool InputReports::report_menu(QContextMenuEvent& event) { return listener_->menu_requested(to_point(event.pos())); }
+bool InputReports::report_menu(QContextMenuEvent& event) {
+    // A press that was taken over asks for no menu.
+    return taken_ || listener_->menu_requested(to_point(event.pos()));
+}
 
 }  // namespace tavrik::front::qt
