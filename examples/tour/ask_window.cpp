@@ -31,8 +31,11 @@ void accepted(Object* button) {
 void create_controls(AskWindow* self) {
     const Frame frame(self);
     constexpr std::int32_t kMovableModal = 1;
+    constexpr std::int32_t kMiddleOfParent = 1;
     self->set_Frame(kMovableModal);
-    self->_Move(0, 0, 260, 68);
+    self->set_Placement(kMiddleOfParent);
+    self->set_Width(260);
+    self->set_Height(68);
 
     const Ref<PushButton> cancel = add<PushButton>(self, "Cancel"_s, {20, 20, 100, 28});
     cancel->set_Caption("Cancel"_s);

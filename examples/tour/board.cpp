@@ -73,7 +73,7 @@ void create_controls(Board* self) {
     const Frame frame(self);
     self->_Move(0, 0, 200, 100);
     self->set_HasBackColor(true);
-    self->set_BackColor(rgb(255, 255, 255));
+    self->set_BackColor(rgb(226, 234, 244));
 
     const Ref<Canvas> canvas = add<Canvas>(self, "Board"_s, {0, 0, 200, 100});
     lock_edges(canvas, true, true, true, true);

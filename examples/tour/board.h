@@ -4,7 +4,7 @@
 
 namespace tavrik::tour {
 
-// A white area with a coloured marker that follows the pointer and the arrow keys. A contextual menu has its colours.
+// An area with a coloured marker that follows the pointer and the arrow keys. A contextual menu has its colours.
 struct Board : Class<Board, ContainerControl> {
     static const ClassDefinition& definition();
 

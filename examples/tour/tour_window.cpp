@@ -25,7 +25,10 @@ enum Page : std::int32_t { kCanvas, kContainers, kDialogs };
 
 void lay_out(TourWindow* self) {
     const Frame frame(self);
-    self->_Move(0, 0, 420, 260);
+    constexpr std::int32_t kMiddleOfMainScreen = 2;
+    self->set_Placement(kMiddleOfMainScreen);
+    self->set_Width(420);
+    self->set_Height(260);
     self->set_MinWidth(420);
     self->set_MinHeight(260);
     self->set_Resizeable(true);

@@ -3,8 +3,6 @@
 #include "toolkit/fronts/qt/text.h"
 
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 namespace tavrik::front::qt {
 
@@ -36,11 +34,11 @@ void Canvas::apply(const CanvasDescription& canvas) {
 
 void Canvas::paintEvent(QPaintEvent*) {
     if (!hasFocus() || !focus_ring_) return;
+    // Not the style's: some fill what they frame, and the background with it.
+    constexpr int kWidth = 2;
     QPainter painter(this);
-    QStyleOptionFocusRect ring;
-    ring.initFrom(this);
-    ring.backgroundColor = palette().color(QPalette::Window);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, this);
+    painter.setClipRegion(QRegion(rect()) - rect().adjusted(kWidth, kWidth, -kWidth, -kWidth));
+    painter.fillRect(rect(), palette().color(QPalette::Highlight));
 }
 
 }  // namespace tavrik::front::qt
