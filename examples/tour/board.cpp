@@ -94,6 +94,7 @@ void create_controls(Board* self) {
     marker->EmbedWithin(canvas, 0, 0, kMarkerSize, kMarkerSize);
     on(marker, "MouseMove"_s, pointer_moved_on_marker);
     self->mMarker = marker;
+    self->Point(60, 50);
 }
 
 void point(Board* self, std::int32_t x, std::int32_t y) {
