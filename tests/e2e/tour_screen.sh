@@ -19,21 +19,21 @@ click() {
     xdotool click "${3-1}"
 }
 color_at() {
-    import -window "$window" -crop "1x1+$1+$((top + $2))" +repage -format '%[hex:u.p{0,0}]' info: | cut -c 1-6
+    import -window "$window" -crop "1x1+$1+$((top + $2))" -depth 8 rgb:- | od -An -tx1 | tr -d ' \n'
 }
 has_color() { [[ $(color_at "$2" "$3") == "$1" ]]; }
 title_is() { [[ $(name_of "$window") == "$1" ]]; }
 asks() { is_in_front 'Set both counters to 0?'; }
 
-apples=D6EAD6
-pears=FAECC8
+apples=d6ead6
+pears=faecc8
 
 The_marker_follows_the_pointer_and_the_keys() {
     start_tour
     move_to 100 100
     move_to 124 152
     wait_until title_is 'Tour: 100, 100'
-    wait_until has_color C0392B 124 152
+    wait_until has_color c0392b 124 152
     move_to 134 162 # from the marker itself
     wait_until title_is 'Tour: 110, 110'
     act_until canvas_has_moved_it press_canvas_and_right
@@ -54,7 +54,7 @@ choose_green() {
     xdotool key Down Down Return
     move_to 224 152
 }
-is_green() { has_color 27864C 224 152; }
+is_green() { has_color 27864c 224 152; }
 
 Pages_come_by_mouse_and_by_keys() {
     start_tour
@@ -87,6 +87,6 @@ A_question_is_answered_by_Return_and_Escape() {
     press_until tool_has_ended ctrl+q
     expect_end
 }
-window_shows_dialogs() { ! has_color E2EAF4 300 150; }
+window_shows_dialogs() { ! has_color e2eaf4 300 150; }
 
 "$2"
