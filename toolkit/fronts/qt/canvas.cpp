@@ -2,9 +2,28 @@
 
 #include "toolkit/fronts/qt/text.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 
 namespace tavrik::front::qt {
+namespace {
+
+// One that takes no focus is the ground for what lies on it.
+class CanvasReader final : public QAccessibleWidget {
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QAccessible::Role role() const override {
+        return widget()->focusPolicy() == Qt::NoFocus ? QAccessible::Pane : QAccessible::Canvas;
+    }
+};
+
+}  // namespace
+
+QAccessibleInterface* Canvas::make_reader(const QString&, QObject* object) {
+    auto* const canvas = dynamic_cast<Canvas*>(object);
+    return canvas == nullptr ? nullptr : new CanvasReader(canvas);
+}
 
 Canvas::Canvas(Container& outer, ControlListener& listener) : ControlWidget(outer, listener) {
     input().keeps_presses = true;

@@ -1,5 +1,6 @@
 #include "toolkit/fronts/qt/qt_front.h"
 
+#include "toolkit/fronts/qt/canvas.h"
 #include "toolkit/fronts/qt/cursor.h"
 #include "toolkit/fronts/qt/file_dialog.h"
 #include "toolkit/fronts/qt/message_box.h"
@@ -41,6 +42,7 @@ QtFront::QtFront(const Start& start)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     // QApplication::exec() would do this.
     QAccessible::setRootObject(&application_);
+    QAccessible::installFactory(&Canvas::make_reader);
     wake_up_.setSingleShot(true);
     QObject::connect(&wake_up_, &QTimer::timeout, &wake_up_, [&listener = start.application] { listener.woken(); });
 }
