@@ -191,6 +191,24 @@ void part_from_imp(Object* pane) {
     if (Object* const imp = pane_native.peek(pane)) pane_behind(imp) = nullptr;
 }
 
+// What nobody sees takes the pointer, wherever it is, to be outside.
+void move_outside(Object* pane, std::int32_t, std::int32_t) {
+    static const std::int32_t slot = find_slot("_Pane", "HandleMouseMove", "%%i4i4");
+    using Move = void (*)(Object*, std::int32_t, std::int32_t);
+    reinterpret_cast<Move>(pane->record->vtable[slot])(pane, kOutsideOfPanes, kOutsideOfPanes);
+}
+
+// The operations of a pane of the toolkit's own class whose control is hidden.
+const Function* hidden_vtable(const ClassRecord* record) {
+    static Function* const vtable = [record] {
+        Function* const made = RuntimeNewVtable(record->vtable_size);
+        std::copy_n(record->vtable, record->vtable_size, made);
+        made[find_slot("_Pane", "HandleMouseMove", "%%i4i4")] = entry(move_outside);
+        return made;
+    }();
+    return vtable;
+}
+
 ClassRecord* native_pane_class() {
     static ClassRecord* const record = [] {
         ClassRecord* const parent = need_class("_Pane");
@@ -247,7 +265,10 @@ void mirror(const ControlState& control) {
     pane_visible.set(pane, control.visible);
     pane_enabled.set(pane, control.enabled);
     pane_page.set(pane, control.panel_index());
-    pane_on_page.set(pane, control.parent() == nullptr || control.parent()->shows(control));
+    const bool on_page = control.parent() == nullptr || control.parent()->shows(control);
+    pane_on_page.set(pane, on_page);
+    if (pane->record == native_pane_class())
+        pane->vtable = control.visible && on_page ? pane->record->vtable : hidden_vtable(pane->record);
     const Ref<Object> parent = parent_pane_of(control);
     if (parent) join(pane, parent.object());
 }

@@ -65,6 +65,24 @@ TEST_F(Panes, Count_both_ends_of_their_rectangle_and_tell_enter_move_and_exit) {
     EXPECT_THAT(heard_now(), ElementsAre("MouseExit"));
 }
 
+TEST_F(Panes, Tell_nothing_of_the_pointer_over_what_is_hidden) {
+    const Ref<Canvas> outer = add<Canvas>(window_, "Outer");
+    const Ref<Canvas> inner = add<Canvas>(window_, "Inner");
+    outer->_Move(0, 0, 50, 50);
+    inner->_Move(0, 0, 50, 50);
+    inner->set_Parent(outer);
+    listen_to<"MouseMove", void(Int, Int)>(inner);
+    listen_to<"MouseExit">(inner);
+    face().listener.mouse_moved({5, 5});
+    outer->set_Visible(false);
+    face().listener.mouse_moved({6, 6});
+    face().listener.mouse_moved({7, 7});
+    EXPECT_THAT(heard_now(), ElementsAre("MouseMove", "MouseExit"));
+    outer->set_Visible(true);
+    face().listener.mouse_moved({8, 8});
+    EXPECT_THAT(heard_now(), ElementsAre("MouseMove"));
+}
+
 TEST_F(Panes, Send_what_no_control_wants_to_the_window_if_they_are_its_root) {
     listen_to<"MouseDown", bool(Int, Int)>(window_);
     listen_to<"MouseWheel", bool(Int, Int, Int, Int)>(window_);
