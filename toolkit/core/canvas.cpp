@@ -11,6 +11,8 @@ namespace tavrik {
 namespace core {
 namespace {
 
+constinit Event<bool(std::int32_t, std::int32_t)> pressed{"Canvas", "MouseDown"};
+constinit Event<bool(Object*, std::int32_t, std::int32_t)> constructs_menu{"RectControl", "ConstructContextualMenu"};
 constinit Property<bool> accepts_focus{"Canvas", "AcceptFocus"};
 constinit Property<bool> accepts_tabs{"Canvas", "AcceptTabs"};
 constinit Property<bool> uses_focus_ring{"Canvas", "UseFocusRing"};
@@ -33,6 +35,7 @@ void CanvasState::apply_to(front::ControlFace& face) {
 void CanvasState::describe_canvas(front::CanvasDescription& canvas) const {
     describe(canvas);
     const Looks looks = stored_looks();
+    canvas.hears_presses = looks.hears_presses;
     canvas.accepts_focus = looks.accepts_focus;
     canvas.accepts_tabs = looks.accepts_tabs;
     canvas.focus_ring = looks.focus_ring;
@@ -40,9 +43,11 @@ void CanvasState::describe_canvas(front::CanvasDescription& canvas) const {
 }
 
 CanvasState::Looks CanvasState::stored_looks() const {
-    return {accepts_focus.get(self()), accepts_tabs.get(self()), uses_focus_ring.get(self()),
+    return {hears_presses(), accepts_focus.get(self()), accepts_tabs.get(self()), uses_focus_ring.get(self()),
             erases_background.get(self())};
 }
+
+bool CanvasState::hears_presses() const { return pressed.handled(self()) || constructs_menu.handled(self()); }
 
 void CanvasState::look_at_stored_properties() {
     if (stored_looks() != told_) changed();

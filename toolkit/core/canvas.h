@@ -12,12 +12,14 @@ protected:
     std::unique_ptr<front::ControlFace> make_face(front::ContainerFace& container,
                                                   front::ControlListener& listener) override;
     void apply_to(front::ControlFace& face) override;
+    virtual bool hears_presses() const;
     virtual void describe_canvas(front::CanvasDescription& canvas) const;
     bool has_stored_looks() const override { return true; }
     void look_at_stored_properties() override;
 
 private:
     struct Looks {
+        bool hears_presses = false;
         bool accepts_focus = false;
         bool accepts_tabs = false;
         bool focus_ring = false;

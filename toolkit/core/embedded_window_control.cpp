@@ -26,6 +26,8 @@ constinit Operation<bool(std::int32_t, std::int32_t, std::int32_t, std::int32_t)
 constinit Operation<void()> mouse_enter{"Window", "_MouseEnter", "%%"};
 constinit Operation<void()> mouse_exit{"Window", "_MouseExit", "%%"};
 constinit Operation<void(Object*)> paint{"Window", "_Paint", "%%o<Graphics>"};
+constinit Event<bool(std::int32_t, std::int32_t)> pressed{"Window", "MouseDown"};
+constinit Event<bool(Object*, std::int32_t, std::int32_t)> constructs_menu{"Window", "ConstructContextualMenu"};
 constinit Event<void(std::int32_t, std::int32_t)> mouse_drag{"Window", "MouseDrag"};
 constinit Event<void(std::int32_t, std::int32_t)> mouse_up{"Window", "MouseUp"};
 constinit Event<void(Object*, std::int32_t)> drop_object{"Window", "DropObject"};
@@ -104,6 +106,11 @@ bool HostState::handle_menu_command(Object* item) {
         if (pane && pane_handles(pane.object(), item)) return true;
     }
     return window_state(inner.object()).menu_handlers.call(inner.object(), name) || handles(inner.object(), item);
+}
+
+// The host's own handler is there always, and passes on to the container.
+bool HostState::hears_presses() const {
+    return container != nullptr && (pressed.handled(container) || constructs_menu.handled(container));
 }
 
 void HostState::describe_canvas(front::CanvasDescription& canvas) const {

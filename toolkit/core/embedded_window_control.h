@@ -20,6 +20,7 @@ public:
     bool handle_menu_command(Object* item) override;
 
 protected:
+    bool hears_presses() const override;
     void describe_canvas(front::CanvasDescription& canvas) const override;
     void attach_contents() override;
     void detach_contents() override;

@@ -142,6 +142,7 @@ struct ButtonDescription : ControlDescription {
 };
 
 struct CanvasDescription : ControlDescription {
+    bool hears_presses = false;  // of any button: something may come of them
     bool accepts_focus = false;
     bool accepts_tabs = false;  // the Tab key is typed into it like any other
     bool focus_ring = true;

@@ -5,6 +5,7 @@
 namespace tavrik::front::terminal {
 
 std::vector<ControlView> TerminalCanvas::views() const {
+    if (!shown().accepts_focus && !shown().hears_presses) return {};
     return {{.caption = printable(shown().name), .value = {}, .enabled = shown().enabled}};
 }
 

@@ -4,7 +4,7 @@
 
 namespace tavrik::front::terminal {
 
-// Has its name for a picture; using it presses the mouse in its middle.
+// Has its name for a picture, where it is there to be used: that presses the mouse in its middle.
 class TerminalCanvas final : public TerminalControl<CanvasFace, CanvasDescription> {
 public:
     using TerminalControl::TerminalControl;
